@@ -1,0 +1,170 @@
+#include "suites.h"
+
+#include <algorithm>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include <common/catalog.h>
+
+#include "sample_drawing.h"
+
+namespace {
+
+/// A filter as a person would set it; an empty type is all types.
+struct Filter
+{
+    const char* name;
+    const wchar_t* type;
+    const wchar_t* property;
+    const wchar_t* operatorText;
+    const wchar_t* value;
+};
+
+constexpr Filter kFilters[] = {
+    {"circles by radius", L"Circle", L"Radius", L">", L"50"},
+    {"lines by length", L"Line", L"Length", L"<", L"40"},
+    {"texts by contents", L"Text", L"Contents", L"*", L"*Valve*"},
+    {"everything by layer", L"", L"Layer", L"=", L"PIPE-003"},
+    {"everything", L"", L"Layer", L"", L""},
+};
+
+/// The same kinds of test, with values that no entity has: nothing is handed over.
+constexpr Filter kFruitlessFilters[] = {
+    {"circles by radius", L"Circle", L"Radius", L">", L"1000000"},
+    {"everything by layer", L"", L"Layer", L"=", L"NOWHERE"},
+};
+
+/// A filter in the module's terms. Owns the texts that the request points to.
+class Search
+{
+  public:
+    /// Finds type and property in the working drawing.
+    Search(const Module& module, const Filter& filter) : m_filter(filter)
+    {
+        const std::vector<TypeEntry> types = typesInSpace(module);
+        const auto wanted = [&](const TypeEntry& type) {
+            return !*filter.type || type.displayName == filter.type;
+        };
+        const auto type = std::find_if(types.begin(), types.end(), wanted);
+        if (type == types.end())
+            return;
+        m_className = *filter.type ? type->className : L"";
+        const std::vector<PropertyEntry> properties = propertiesOf(module, type->example, false);
+        const auto property =
+            std::find_if(properties.begin(), properties.end(), [&](const PropertyEntry& entry) {
+                return entry.listName() == filter.property;
+            });
+        m_isFound = property != properties.end();
+        if (m_isFound)
+            m_property = *property;
+    }
+
+    bool isFound() const { return m_isFound; }
+
+    quick_select::Request request() const
+    {
+        quick_select::Request request{};
+        request.typeName = m_filter.type;
+        request.className = m_className.c_str();
+        request.propertyKey = m_property.key.c_str();
+        request.kind = m_property.restype();
+        request.operatorText = m_filter.operatorText;
+        request.valueText = m_filter.value;
+        return request;
+    }
+
+  private:
+    Filter m_filter;
+    bool m_isFound = false;
+    std::wstring m_className;
+    PropertyEntry m_property;
+};
+
+bool fail(benchmark::State& state, const char* problem)
+{
+    state.SkipWithError(problem);
+    return false;
+}
+
+/// One run. False, with the benchmark ended, unless the outcome is as wished.
+bool run(benchmark::State& state, const Module& module, const Search& search, bool shouldMatch)
+{
+    if (!search.isFound())
+        return fail(state, "the drawing lacks the type or the property");
+    quick_select::Result result{};
+    module.run(search.request(), nullptr, result);
+    if (result.outcome != quick_select::Outcome::Done)
+        return fail(state, "the module refused the filter");
+    state.counters["matches"] = result.matches;
+    if ((result.matches > 0) != shouldMatch)
+        return fail(state, shouldMatch ? "nothing matched" : "something matched");
+    return true;
+}
+
+void countEntity(void* context, const quick_select::Entity&)
+{
+    ++*static_cast<long*>(context);
+}
+
+/// Gathering alone, by the module's listing of all entities.
+Measurement gather(const Module& module)
+{
+    return [&module](benchmark::State& state, long entities) {
+        const WorkingDrawing drawing(state, entities, {});
+        long listed = 0;
+        for (auto _ : state) {
+            listed = 0;
+            module.listEntities(nullptr, countEntity, &listed);
+        }
+        if (listed != entities)
+            state.SkipWithError("not all entities were gathered");
+    };
+}
+
+/// Runs over a drawing whose members have all been read.
+Measurement repeatedRuns(const Module& module, const Filter& filter, bool shouldMatch)
+{
+    return [&module, filter, shouldMatch](benchmark::State& state, long entities) {
+        ReadOptions options;
+        options.readAllMembers = true;
+        const WorkingDrawing drawing(state, entities, options);
+        const Search search(module, filter);
+        for (auto _ : state)
+            if (!run(state, module, search, shouldMatch))
+                break;
+    };
+}
+
+/// The first run after loading, which reads the members that it needs.
+Measurement firstRun(const Module& module, const Filter& filter)
+{
+    return [&module, filter](benchmark::State& state, long entities) {
+        std::optional<WorkingDrawing> drawing;
+        for (auto _ : state) {
+            state.PauseTiming();
+            drawing.reset();
+            drawing.emplace(state, entities, ReadOptions{});
+            const Search search(module, filter);
+            state.ResumeTiming();
+            if (!run(state, module, search, true))
+                break;
+        }
+    };
+}
+
+} // namespace
+
+void registerQuickSelect(const Module& module, long entities)
+{
+    registerMeasurement("gather", entities, gather(module));
+    for (const Filter& filter : kFruitlessFilters)
+        registerMeasurement(std::string("match/") + filter.name, entities,
+                            repeatedRuns(module, filter, false));
+    for (const Filter& filter : kFilters)
+        registerMeasurement(std::string("run/") + filter.name, entities,
+                            repeatedRuns(module, filter, true));
+    for (const Filter& filter : kFilters)
+        registerMeasurement(std::string("first run/") + filter.name, entities,
+                            firstRun(module, filter));
+}

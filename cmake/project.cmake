@@ -1,0 +1,83 @@
+# Settings and helpers shared by every folder of the tree.
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+
+if(NOT CMAKE_BUILD_TYPE)
+  set(CMAKE_BUILD_TYPE Release CACHE STRING "" FORCE)
+endif()
+
+set(CMAKE_CXX_FLAGS_RELEASE "-O2 -DNDEBUG")
+
+# Programs, libraries and the module lie side by side, so a build tree runs as it is.
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
+set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/lib)
+
+find_program(CCACHE ccache)
+if(CCACHE)
+  # Without this sloppiness ccache would not cache what uses a precompiled header.
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${CMAKE_COMMAND} -E env
+    CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime ${CCACHE})
+  add_compile_options(-fpch-preprocess)
+endif()
+
+option(KW_WARNINGS_AS_ERRORS "Treat warnings in our own code as errors" ON)
+add_compile_options(-Wall -Wextra -Wpedantic -Wconversion -Wshadow)
+if(KW_WARNINGS_AS_ERRORS)
+  add_compile_options(-Werror)
+endif()
+add_link_options(-Wl,--no-undefined -Wl,--as-needed)
+
+option(KW_SANITIZE "Build with the address and undefined-behaviour sanitizers" OFF)
+if(KW_SANITIZE)
+  add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=address,undefined)
+endif()
+
+if(KW_BUILD_FUZZERS)
+  add_compile_options(-fsanitize=fuzzer-no-link)
+endif()
+
+# project_library(<target> SOURCES <file>... [DEPS <target>...])
+# One folder's code, as objects that a shared library or a test program gathers.
+function(project_library target)
+  cmake_parse_arguments(ARG "" "" "SOURCES;DEPS" ${ARGN})
+  add_library(${target} OBJECT ${ARG_SOURCES})
+  target_link_libraries(${target} PUBLIC ${ARG_DEPS})
+  target_precompile_headers(${target} PRIVATE ${PROJECT_SOURCE_DIR}/cmake/precompiled.h)
+endfunction()
+
+# project_objects(<target> <library>...)
+# Gathers the objects of several folders and all that they link, for a whole library or a test.
+function(project_objects target)
+  add_library(${target} INTERFACE)
+  foreach(library ${ARGN})
+    target_sources(${target} INTERFACE $<TARGET_OBJECTS:${library}>)
+    target_link_libraries(${target} INTERFACE
+      $<TARGET_PROPERTY:${library},INTERFACE_LINK_LIBRARIES>)
+    target_include_directories(${target} INTERFACE
+      $<TARGET_PROPERTY:${library},INTERFACE_INCLUDE_DIRECTORIES>)
+  endforeach()
+endfunction()
+
+# project_test(<folder> SOURCES <file>... LIBRARIES <object library>... [DEPS <target>...])
+# One test program for a folder, made of the objects of the named libraries, so that it reaches what
+# a shared library keeps to itself. Each of its tests is known to CTest by its own name.
+function(project_test folder)
+  cmake_parse_arguments(ARG "" "" "SOURCES;LIBRARIES;DEPS" ${ARGN})
+  set(target ${folder}_test)
+  project_objects(${target}_objects ${ARG_LIBRARIES})
+  add_executable(${target} ${ARG_SOURCES})
+  target_link_libraries(${target} PRIVATE
+    ${target}_objects ${ARG_DEPS} test_support GTest::gmock GTest::gtest_main)
+  target_precompile_headers(${target} PRIVATE ${PROJECT_SOURCE_DIR}/cmake/precompiled_test.h)
+  # Tests themselves need no speed, and from -O2 on GCC 12 warns of string code that is right.
+  target_compile_options(${target} PRIVATE $<$<CONFIG:Release>:-O1>)
+  gtest_discover_tests(${target} DISCOVERY_TIMEOUT 60
+    PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen" TIMEOUT 300)
+endfunction()

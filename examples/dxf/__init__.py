@@ -1,0 +1,1 @@
+"""Writes DXF drawings with nothing but the standard library."""

@@ -1,0 +1,127 @@
+#include <database/database.h>
+
+#include <algorithm>
+#include <cassert>
+
+KdDbMemberSource::~KdDbMemberSource() = default;
+
+KdDbDatabase::KdDbDatabase(Content content)
+{
+    KdDbObject* const tables[] = {
+        new KdDbBlockTable,    new KdDbLayerTable, new KdDbLinetypeTable, new KdDbTextStyleTable,
+        new KdDbDimStyleTable, new KdDbUCSTable,   new KdDbViewportTable, new KdDbRegAppTable};
+    for (KdDbObject* table : tables) {
+        own(*table);
+        m_tables.push_back(table);
+    }
+    if (content == Content::Standard)
+        KdDbDatabaseBuilder(*this).finish();
+}
+
+KdDbDatabase::~KdDbDatabase()
+{
+    kddbHostApplicationServices()->sayGoodbye(*this);
+    for (KdDbObject* object : m_objects) {
+        if (object->m_inArena)
+            object->~KdDbObject();
+        else
+            delete object;
+    }
+}
+
+void KdDbDatabase::own(KdDbObject& object)
+{
+    object.m_database = this;
+    m_objects.push_back(&object);
+}
+
+KdErrorStatus KdDbDatabase::addObject(KdDbObject* object, KdDbObjectId owner)
+{
+    if (!object)
+        return eNullObjectPointer;
+    if (object->m_database)
+        return eWrongDatabase;
+    own(*object);
+    object->m_owner = owner;
+    object->m_handle = m_nextHandle++;
+    noteHandle(*object);
+    return eOk;
+}
+
+void KdDbDatabase::noteHandle(KdDbObject& object)
+{
+    // A larger one is damage; counting on from there would soon leave no handle for new objects.
+    constexpr KdDbHandle kMost = KdDbHandle{1} << 63;
+    if (!m_byHandle.empty() && object.m_handle <= m_byHandle.back()->m_handle)
+        m_handlesAreSorted = false;
+    m_byHandle.push_back(&object);
+    if (object.m_handle >= m_nextHandle && object.m_handle < kMost)
+        m_nextHandle = object.m_handle + 1;
+}
+
+KdDbObject* KdDbDatabase::findTable(const KdRxClass* tableClass) const
+{
+    const auto found = std::find_if(m_tables.begin(), m_tables.end(), [=](const KdDbObject* table) {
+        return table->isA() == tableClass;
+    });
+    return found == m_tables.end() ? nullptr : *found;
+}
+
+KdDbObjectId KdDbDatabase::tableId(const KdRxClass* tableClass) const
+{
+    return KdDbObjectId(findTable(tableClass));
+}
+
+KdDbObject& KdDbDatabase::tableObject(const KdRxClass* tableClass) const
+{
+    KdDbObject* table = findTable(tableClass);
+    assert(table);
+    return *table;
+}
+
+KdDbObjectId KdDbDatabase::modelSpaceId() const
+{
+    KdDbObjectId id;
+    table<KdDbBlockTable>().getIdAt(kModelSpaceName, id);
+    return id;
+}
+
+KdDbObjectId KdDbDatabase::activeSheetId() const
+{
+    if (!m_activeSheet.isNull())
+        return m_activeSheet;
+    KdDbObjectId id;
+    table<KdDbBlockTable>().getIdAt(kPaperSpaceName, id);
+    return id;
+}
+
+KdErrorStatus KdDbDatabase::getPlotStyleNameDictionary(KdDbDictionary*& dictionary,
+                                                       KdDb::OpenMode mode)
+{
+    const OpenForRead<KdDbDictionary> named(m_namedObjects);
+    KdDbObjectId id;
+    if (!named || named->getAt(L"ACAD_PLOTSTYLENAME", id) != eOk)
+        return eKeyNotFound;
+    return kddbOpenObject(dictionary, id, mode);
+}
+
+void KdDbDatabase::sortHandles() const
+{
+    std::stable_sort(
+        m_byHandle.begin(), m_byHandle.end(),
+        [](const KdDbObject* a, const KdDbObject* b) { return a->handle() < b->handle(); });
+    m_handlesAreSorted = true;
+}
+
+KdErrorStatus KdDbDatabase::getObjectId(KdDbObjectId& id, KdDbHandle handle) const
+{
+    if (!m_handlesAreSorted)
+        sortHandles();
+    const auto found = std::lower_bound(
+        m_byHandle.begin(), m_byHandle.end(), handle,
+        [](const KdDbObject* object, KdDbHandle wanted) { return object->handle() < wanted; });
+    if (found == m_byHandle.end() || (*found)->handle() != handle)
+        return eKeyNotFound;
+    id = (*found)->objectId();
+    return eOk;
+}

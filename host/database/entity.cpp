@@ -1,0 +1,83 @@
+#include <database/entity.h>
+
+#include <database/database.h>
+
+KD_RX_DEFINE_ABSTRACT(KdDbEntity, KdDbObject, L"AcDbEntity")
+
+namespace {
+
+// One text for all entities, so that none is made for each.
+const KdString& byLayerName()
+{
+    static const KdString name(L"ByLayer");
+    return name;
+}
+
+const KdString& byBlockName()
+{
+    static const KdString name(L"ByBlock");
+    return name;
+}
+
+KdString recordName(KdDbObjectId id)
+{
+    const OpenForRead<KdDbSymbolTableRecord> record(id);
+    return record ? record->name() : KdString();
+}
+
+} // namespace
+
+KdString KdDbEntity::layer() const
+{
+    return recordName(m_layer);
+}
+
+KdCmColor KdDbEntity::color() const
+{
+    KdCmColor color(data().color);
+    const KdString& name = data().colorName;
+    if (!name.isEmpty()) {
+        const int separator = name.findOneOf(L"$");
+        const auto length = static_cast<std::size_t>(separator);
+        if (separator < 0)
+            color.setNames(name, {});
+        else
+            color.setNames(name.substr(length + 1), name.substr(0, length));
+    }
+    return color;
+}
+
+KdString KdDbEntity::linetype() const
+{
+    return linetypeId().isNull() ? byLayerName() : recordName(linetypeId());
+}
+
+KdString KdDbEntity::plotStyleName() const
+{
+    using PlotStyle = EntityMembers::PlotStyle;
+    switch (data().plotStyleKind) {
+    case PlotStyle::ByLayer:
+        return byLayerName();
+    case PlotStyle::ByBlock:
+        return byBlockName();
+    default:
+        break;
+    }
+    KdDbDictionary* styles = nullptr;
+    if (!database() || database()->getPlotStyleNameDictionary(styles, KdDb::kForRead) != eOk)
+        return {};
+    KdDbObjectId wanted = data().plotStyle;
+    if (data().plotStyleKind == PlotStyle::DictionaryDefault &&
+        styles->isKindOf(KdDbDictionaryWithDefault::desc()))
+        wanted = static_cast<KdDbDictionaryWithDefault*>(styles)->defaultId();
+    KdString name;
+    styles->nameAt(wanted, name);
+    styles->close();
+    return name;
+}
+
+KdDbObjectId KdDbEntity::blockId() const
+{
+    const KdDbObjectId owner = ownerId();
+    return owner.isKindOf(KdDbEntity::desc()) ? owner.ownerId() : owner;
+}

@@ -1,0 +1,3 @@
+#include <editor/command.h>
+
+KD_RX_DEFINE_ABSTRACT(KdEdCommand, KdRxObject, L"KdEdCommand")

@@ -1,0 +1,33 @@
+#include "selection_store.h"
+
+#include <utility>
+
+namespace {
+// The second half of a set's name tells it from the name of an entity.
+constexpr long kSetNameMark = 0x536574;
+} // namespace
+
+void SelectionStore::add(SelectionSet set, kds_name name)
+{
+    m_sets.emplace(++m_lastNumber, std::move(set));
+    name[0] = m_lastNumber;
+    name[1] = kSetNameMark;
+}
+
+SelectionSet* SelectionStore::find(const long* name)
+{
+    if (!name || name[1] != kSetNameMark)
+        return nullptr;
+    const auto found = m_sets.find(name[0]);
+    return found == m_sets.end() ? nullptr : &found->second;
+}
+
+bool SelectionStore::free(const long* name)
+{
+    return find(name) && m_sets.erase(name[0]) > 0;
+}
+
+void SelectionStore::freeAllOf(const KdDbDatabase& database)
+{
+    std::erase_if(m_sets, [&](const auto& entry) { return entry.second.database() == &database; });
+}

@@ -1,0 +1,3 @@
+#include <entities/light.h>
+
+KD_RX_DEFINE(KdDbLight, KdDbEntity, L"AcDbLight", L"LIGHT")

@@ -1,0 +1,3 @@
+#include <entities/mline.h>
+
+KD_RX_DEFINE(KdDbMline, KdDbEntity, L"AcDbMline", L"MLINE")

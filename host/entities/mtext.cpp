@@ -1,0 +1,3 @@
+#include <entities/mtext.h>
+
+KD_RX_DEFINE(KdDbMText, KdDbEntity, L"AcDbMText", L"MTEXT")

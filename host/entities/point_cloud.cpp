@@ -1,0 +1,3 @@
+#include <entities/point_cloud.h>
+
+KD_RX_DEFINE(KdDbPointCloudEx, KdDbEntity, L"AcDbPointCloudEx", L"ACDBPOINTCLOUDEX")

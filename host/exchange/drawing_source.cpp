@@ -1,0 +1,37 @@
+#include "drawing_source.h"
+
+#include <entities/viewport.h>
+
+namespace dxf {
+
+KdDbObjectId DrawingSource::block(const Group& name)
+{
+    const auto known = blocks.find(name.text);
+    if (known != blocks.end())
+        return known->second;
+    const KdString text = decoder.decode(name.text);
+    KdDbObjectId id;
+    if (database.table<KdDbBlockTable>().getIdAt(text.kwszPtr(), id) != eOk)
+        findings.add(DrawingFinding::UndefinedBlock, name.offset, text);
+    blocks.emplace(name.text, id);
+    return id;
+}
+
+KdDbObjectId DrawingSource::firstViewport(KdDbObjectId block)
+{
+    const auto [place, isNew] = firstViewports.try_emplace(block);
+    if (!isNew)
+        return place->second;
+    const OpenForRead<KdDbBlockTableRecord> record(block);
+    if (!record)
+        return {};
+    for (const KdDbObjectId id : record->entityIds()) {
+        if (id.objectClass() == KdDbViewport::desc()) {
+            place->second = id;
+            break;
+        }
+    }
+    return place->second;
+}
+
+} // namespace dxf

@@ -1,0 +1,83 @@
+// What stays of a drawing file once it is indexed: its bytes and all that is needed to read them.
+#pragma once
+
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+#include <database/database.h>
+
+#include "file_bytes.h"
+#include "file_form.h"
+#include "text_decoder.h"
+
+namespace dxf {
+
+/// What the CLASSES section says of a kind that is not built in.
+struct ForeignClass
+{
+    KdString dxfName;
+    KdString className;
+};
+
+/// Finds the records of one table by the undecoded names that entities use.
+template <class Table>
+class NamedRecords
+{
+  public:
+    /// The record of that name. One that is not there is made with its defaults, which is noted.
+    KdDbObjectId find(KdDbDatabase& database, const TextDecoder& decoder, Findings& findings,
+                      DrawingFinding missing, const Group& name)
+    {
+        const auto known = m_ids.find(name.text);
+        if (known != m_ids.end())
+            return known->second;
+        const KdString text = decoder.decode(name.text);
+        KdDbObjectId id;
+        if (database.table<Table>().getIdAt(text.kwszPtr(), id) != eOk) {
+            findings.add(missing, name.offset, text);
+            id = database.addRecord<Table>(text)->objectId();
+        }
+        m_ids.emplace(name.text, id);
+        return id;
+    }
+
+  private:
+    std::unordered_map<std::string_view, KdDbObjectId> m_ids; ///< keys lie in the file's bytes
+};
+
+struct DrawingSource
+{
+    explicit DrawingSource(KdDbDatabase& owner) : database(owner) {}
+
+    KdDbObjectId linetype(const Group& name)
+    {
+        return linetypes.find(database, decoder, findings, DrawingFinding::UndefinedLinetype, name);
+    }
+    KdDbObjectId textStyle(const Group& name)
+    {
+        return textStyles.find(database, decoder, findings, DrawingFinding::UndefinedStyle, name);
+    }
+    /// The null id if there is no such block, which is noted.
+    KdDbObjectId block(const Group& name);
+    /// The viewport that comes first in a block.
+    KdDbObjectId firstViewport(KdDbObjectId block);
+    GroupStream groups(SourceRange range)
+    {
+        return {form, range.offset, range.offset + range.length, &findings};
+    }
+
+    KdDbDatabase& database;
+    FileBytes bytes;
+    FileForm form;
+    int version = 1009; ///< the number in the version's name
+    TextDecoder decoder;
+    Findings findings;
+    std::vector<ForeignClass> classes; ///< in the order of the file
+    NamedRecords<KdDbLinetypeTable> linetypes;
+    NamedRecords<KdDbTextStyleTable> textStyles;
+    std::unordered_map<std::string_view, KdDbObjectId> blocks;
+    std::unordered_map<KdDbObjectId, KdDbObjectId> firstViewports;
+};
+
+} // namespace dxf

@@ -1,0 +1,133 @@
+#include "file_bytes.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+#include <new>
+#include <string>
+#include <utility>
+
+#include <fcntl.h>
+#include <sys/mman.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include "line_splitter.h"
+
+namespace dxf {
+namespace {
+
+class Descriptor
+{
+  public:
+    // A pipe without a writer must not keep us waiting; it is turned away once it is open.
+    explicit Descriptor(const std::filesystem::path& file)
+        : m_number(open(file.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK))
+    {
+    }
+    ~Descriptor()
+    {
+        if (isOpen())
+            close(m_number);
+    }
+    Descriptor(const Descriptor&) = delete;
+    Descriptor& operator=(const Descriptor&) = delete;
+
+    bool isOpen() const { return m_number >= 0; }
+    int number() const { return m_number; }
+
+  private:
+    int m_number;
+};
+
+KdErrorStatus fail(KdString& error, const wchar_t* reason)
+{
+    error = reason;
+    return eFileAccessError;
+}
+
+const wchar_t* reasonOf(int number)
+{
+    switch (number) {
+    case ENOENT:
+    case ENOTDIR:
+        return L"The file does not exist.";
+    case EACCES:
+    case EPERM:
+        return L"The file can't be read: no permission.";
+    default:
+        return L"The file can't be read.";
+    }
+}
+
+} // namespace
+
+FileBytes::FileBytes(std::size_t capacity) : m_reserved(capacity + kReadablePastEnd)
+{
+    void* const memory =
+        mmap(nullptr, m_reserved, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
+    if (memory == MAP_FAILED)
+        throw std::bad_alloc();
+    madvise(memory, m_reserved, MADV_HUGEPAGE); // fewer page faults; no loss where it is refused
+    m_data = static_cast<char*>(memory);
+}
+
+FileBytes::~FileBytes()
+{
+    if (m_data)
+        munmap(m_data, m_reserved);
+}
+
+FileBytes::FileBytes(FileBytes&& other) noexcept
+{
+    *this = std::move(other);
+}
+
+FileBytes& FileBytes::operator=(FileBytes&& other) noexcept
+{
+    std::swap(m_data, other.m_data);
+    std::swap(m_size, other.m_size);
+    std::swap(m_reserved, other.m_reserved);
+    return *this;
+}
+
+FileBytes FileBytes::copyOf(std::string_view text)
+{
+    FileBytes bytes(text.size());
+    std::copy(text.begin(), text.end(), bytes.m_data);
+    bytes.m_size = text.size();
+    return bytes;
+}
+
+KdErrorStatus FileBytes::read(const std::filesystem::path& file, FileBytes& bytes, KdString& error)
+{
+    const Descriptor descriptor(file);
+    if (!descriptor.isOpen())
+        return fail(error, reasonOf(errno));
+    struct stat status;
+    if (fstat(descriptor.number(), &status) != 0)
+        return fail(error, reasonOf(errno));
+    if (S_ISDIR(status.st_mode))
+        return fail(error, L"The file is a folder, not a drawing.");
+    if (!S_ISREG(status.st_mode))
+        return fail(error, L"The file is no regular file.");
+    // The size is taken once: a file that grows meanwhile is read up to here, one that shrinks up
+    // to its new end.
+    FileBytes result(static_cast<std::size_t>(status.st_size));
+    const std::size_t wanted = static_cast<std::size_t>(status.st_size);
+    while (result.m_size < wanted) {
+        const ssize_t got =
+            ::read(descriptor.number(), result.m_data + result.m_size, wanted - result.m_size);
+        if (got < 0 && errno == EINTR)
+            continue;
+        if (got < 0)
+            return fail(error, reasonOf(errno));
+        if (got == 0)
+            break;
+        result.m_size += static_cast<std::size_t>(got);
+    }
+    bytes = std::move(result);
+    return eOk;
+}
+
+} // namespace dxf

@@ -1,0 +1,37 @@
+// The readers of members: one small function for each class that has members of its own.
+#pragma once
+
+#include <span>
+
+#include "record_reader.h"
+
+namespace dxf {
+
+/// Ties a class to the function that reads its members. A class without a row is read by that of
+/// its nearest ancestor.
+struct MemberReaderRow
+{
+    KdRxClass* (*rxClass)();
+    void (*read)(RecordReader&, ObjectMembers&);
+};
+
+/// A row for a function that takes the class's own record.
+template <class Class, class Members, void (*Read)(RecordReader&, Members&)>
+constexpr MemberReaderRow memberReader()
+{
+    return {Class::desc, [](RecordReader& reader, ObjectMembers& members) {
+                Read(reader, static_cast<Members&>(members));
+            }};
+}
+
+std::span<const MemberReaderRow> tableReaders();
+std::span<const MemberReaderRow> objectReaders();
+std::span<const MemberReaderRow> curveReaders();
+std::span<const MemberReaderRow> polylineReaders();
+std::span<const MemberReaderRow> meshReaders();
+std::span<const MemberReaderRow> textReaders();
+std::span<const MemberReaderRow> insertReaders();
+std::span<const MemberReaderRow> viewportReaders();
+std::span<const MemberReaderRow> proxyReaders();
+
+} // namespace dxf

@@ -1,0 +1,28 @@
+// Answers for the members of objects that are only indexed so far.
+#pragma once
+
+#include <memory>
+
+#include "drawing_source.h"
+
+namespace dxf {
+
+/// Reads the record in `range` into `members`, the record of `object`.
+void readMembers(DrawingSource& source, const KdDbObject& object, SourceRange range,
+                 ObjectMembers& members);
+
+class MemberSource : public KdDbMemberSource
+{
+  public:
+    explicit MemberSource(std::unique_ptr<DrawingSource> source) : m_source(std::move(source)) {}
+
+    void readMembers(const KdDbObject& object, ObjectMembers& members) override
+    {
+        dxf::readMembers(*m_source, object, object.source(), members);
+    }
+
+  private:
+    std::unique_ptr<DrawingSource> m_source;
+};
+
+} // namespace dxf

@@ -1,0 +1,101 @@
+#include "numbers.h"
+
+#include <charconv>
+#include <cmath>
+#include <limits>
+#include <string>
+
+#include <fast_float/fast_float.h>
+
+#include "group.h"
+
+namespace dxf {
+namespace {
+
+std::string_view withoutPlus(std::string_view text)
+{
+    text = trimmed(text);
+    if (!text.empty() && text.front() == '+')
+        text.remove_prefix(1);
+    return text;
+}
+
+bool isDigit(char c)
+{
+    return c >= '0' && c <= '9';
+}
+
+/// How much of `text` was read as a number.
+std::size_t readReal(std::string_view text, double& value)
+{
+    const auto result = fast_float::from_chars(text.data(), text.data() + text.size(), value);
+    if (result.ec != std::errc() || !std::isfinite(value)) {
+        value = 0.0;
+        return 0;
+    }
+    return static_cast<std::size_t>(result.ptr - text.data());
+}
+
+/// Whether what follows a number that was read up to `used` makes it one with a decimal comma.
+bool hasDecimalComma(std::string_view text, std::size_t used)
+{
+    return used > 0 && used + 1 < text.size() && text[used] == ',' && isDigit(text[used + 1]);
+}
+
+} // namespace
+
+NumberState parseReal(std::string_view text, double& value)
+{
+    constexpr std::size_t kLongestNumber = 64;
+    text = withoutPlus(text);
+    std::size_t used = readReal(text, value);
+    if (used == text.size() && used > 0)
+        return NumberState::Good;
+    if (!hasDecimalComma(text, used))
+        return NumberState::Malformed;
+    std::string withPoint(text.substr(0, kLongestNumber));
+    if (used >= withPoint.size())
+        return NumberState::Malformed;
+    withPoint[used] = '.';
+    used = readReal(withPoint, value);
+    return used == text.size() ? NumberState::Comma : NumberState::Malformed;
+}
+
+NumberState parseInteger(std::string_view text, std::int64_t& value)
+{
+    value = 0;
+    text = withoutPlus(text);
+    const char* const end = text.data() + text.size();
+    const auto [at, error] = std::from_chars(text.data(), end, value);
+    if (error == std::errc() && at == end)
+        return NumberState::Good;
+    double real = 0.0;
+    const NumberState state = parseReal(text, real);
+    constexpr double kLimit = 9.0e18;
+    if (std::abs(real) > kLimit)
+        return NumberState::Malformed;
+    value = static_cast<std::int64_t>(real);
+    return state;
+}
+
+bool parseHandle(std::string_view text, std::uint64_t& handle)
+{
+    constexpr std::size_t kMostDigits = 16;
+    handle = 0;
+    text = trimmed(text);
+    if (text.empty() || text.size() > kMostDigits)
+        return false;
+    // By hand, since one is read for every object.
+    std::uint64_t value = 0;
+    for (const char c : text) {
+        const unsigned decimal = static_cast<unsigned>(c - '0');
+        const unsigned letter = static_cast<unsigned>((c | 0x20) - 'a');
+        if (decimal >= 10 && letter >= 6)
+            return false;
+        value = value << 4 | (decimal < 10 ? decimal : letter + 10);
+    }
+    handle = value;
+    return true;
+}
+
+} // namespace dxf

@@ -1,0 +1,67 @@
+// Makes the objects of a drawing during the index pass.
+#pragma once
+
+#include <unordered_set>
+
+#include "drawing_source.h"
+#include "handle_set.h"
+
+namespace dxf {
+
+/// The handle that a record states.
+struct StatedHandle
+{
+    KdDbHandle value = 0;
+    bool isThere = false;
+
+    /// Takes the value of a group, unless one was taken before.
+    void take(const Group& group);
+};
+
+class ObjectMaker
+{
+  public:
+    explicit ObjectMaker(DrawingSource& source) : m_source(source), m_builder(source.database) {}
+
+    /// An object of a class, with the handle that its record states, or with none yet if that is
+    /// missing, 0 or in use.
+    KdDbObject* make(const KdRxClass* rxClass, const StatedHandle& handle, SourceRange range);
+
+    /// A record in a table. One that was only referred to so far becomes the defined one. A second
+    /// definition of a name is noted and becomes a record besides.
+    KdDbSymbolTableRecord* define(KdDbSymbolTable& table, const KdRxClass* recordClass,
+                                  const KdString& name, const StatedHandle& handle,
+                                  SourceRange range);
+    /// The record of a name, made with its defaults if the table lacks it.
+    template <class Table>
+    typename Table::Record* findOrMake(const KdString& name)
+    {
+        Table& table = m_source.database.template table<Table>();
+        return static_cast<typename Table::Record*>(findOrMake(table, Table::Record::desc(), name));
+    }
+    KdDbSymbolTableRecord* findOrMake(KdDbSymbolTable& table, const KdRxClass* recordClass,
+                                      const KdString& name);
+    KdDbSymbolTableRecord* find(const KdDbSymbolTable& table, const KdString& name) const;
+    /// A new record even if the table has one of that name.
+    KdDbSymbolTableRecord* add(KdDbSymbolTable& table, const KdRxClass* recordClass,
+                               const KdString& name, const StatedHandle& handle, SourceRange range);
+
+    /// A name that no record of the table has.
+    KdString freeName(const KdDbSymbolTable& table);
+
+    template <class Members>
+    Members& members(KdDbObject& object)
+    {
+        return static_cast<Members&>(m_builder.membersForFilling(object));
+    }
+    KdDbDatabaseBuilder& builder() { return m_builder; }
+
+  private:
+    DrawingSource& m_source;
+    KdDbDatabaseBuilder m_builder;
+    HandleSet m_handles;
+    std::unordered_set<const KdDbObject*> m_undefined; ///< records that are only referred to
+    int m_namesGiven = 0;
+};
+
+} // namespace dxf

@@ -1,0 +1,112 @@
+#include "table_index.h"
+
+#include <algorithm>
+
+namespace dxf {
+namespace {
+
+struct TableRow
+{
+    std::string_view entryName;
+    KdRxClass* (*recordClass)();
+    KdDbSymbolTable& (*table)(KdDbDatabase&);
+    int handleCode = 5;
+};
+
+template <class Table>
+KdDbSymbolTable& tableOf(KdDbDatabase& database)
+{
+    return database.table<Table>();
+}
+
+template <class Table>
+constexpr TableRow rowOf(std::string_view entryName, int handleCode = 5)
+{
+    return {entryName, Table::Record::desc, tableOf<Table>, handleCode};
+}
+
+constexpr TableRow kTables[] = {
+    rowOf<KdDbLayerTable>("LAYER"),
+    rowOf<KdDbBlockTable>("BLOCK_RECORD"),
+    rowOf<KdDbLinetypeTable>("LTYPE"),
+    rowOf<KdDbTextStyleTable>("STYLE"),
+    rowOf<KdDbDimStyleTable>("DIMSTYLE", 105), // 5 is the name of an arrow here
+    rowOf<KdDbRegAppTable>("APPID"),
+    rowOf<KdDbUCSTable>("UCS"),
+    rowOf<KdDbViewportTable>("VPORT"),
+};
+
+/// What names a table entry.
+struct EntryHead
+{
+    StatedHandle handle;
+    KdString name;
+};
+
+EntryHead readHead(RecordCursor& cursor, const TableRow& row, const TextDecoder& decoder)
+{
+    EntryHead head;
+    bool hasName = false;
+    while (cursor.nextInRecord()) {
+        const Group& group = cursor.group();
+        if (group.code == row.handleCode) {
+            head.handle.take(group);
+        } else if (group.code == 2 && !hasName) {
+            head.name = decoder.decode(group.text);
+            hasName = true;
+        } else if (group.code == 1001) {
+            cursor.toNextRecord();
+            break;
+        }
+    }
+    return head;
+}
+
+} // namespace
+
+void TableIndex::read(RecordCursor& cursor)
+{
+    bool isOpen = false;
+    for (; !cursor.atSectionEnd(); cursor.report()) {
+        if (cursor.isAt("TABLE") || cursor.isAt("ENDTAB")) {
+            const bool opens = cursor.isAt("TABLE");
+            if (opens && isOpen)
+                m_source.findings.add(DrawingFinding::TableNotClosed, cursor.offset());
+            isOpen = opens;
+            cursor.toNextRecord();
+        } else {
+            readEntry(cursor);
+        }
+    }
+    if (isOpen)
+        m_source.findings.add(DrawingFinding::TableNotClosed, cursor.offset());
+}
+
+void TableIndex::readEntry(RecordCursor& cursor)
+{
+    // The entry says what it is, also in a table that does not.
+    const auto* row = std::ranges::find(kTables, cursor.name(), &TableRow::entryName);
+    if (row == std::end(kTables)) {
+        cursor.toNextRecord();
+        return;
+    }
+    const std::uint64_t begin = cursor.offset();
+    EntryHead head = readHead(cursor, *row, m_source.decoder);
+    const SourceRange range = cursor.rangeFrom(begin, m_source.findings);
+    KdDbSymbolTable& table = row->table(m_source.database);
+    const bool isBlock = row->recordClass() == KdDbBlockTableRecord::desc();
+    const bool mayBeNameless = row->recordClass() == KdDbTextStyleTableRecord::desc();
+    if (isBlock)
+        head.name = standardBlockName(head.name, m_source.version);
+    if (head.name.isEmpty() && !mayBeNameless) {
+        m_source.findings.add(DrawingFinding::MissingName, begin);
+        head.name = m_maker.freeName(table);
+    }
+    KdDbSymbolTableRecord* record =
+        m_maker.define(table, row->recordClass(), head.name, head.handle, range);
+    m_definitions.push_back({record, range});
+    if (isBlock)
+        m_blocks.addHandle(head.handle.value, static_cast<KdDbBlockTableRecord&>(*record));
+}
+
+} // namespace dxf

@@ -1,0 +1,227 @@
+// Records of symbol tables. Their names are known from the index pass.
+#include <database/block_table.h>
+#include <database/tables.h>
+
+#include "member_readers.h"
+
+namespace dxf {
+namespace {
+
+constexpr int kFrozen = 1;
+constexpr int kShapeFile = 1;
+constexpr int kLocked = 4;
+constexpr int kVertical = 4;
+constexpr int kDependent = 16;
+
+/// The flags that all records have; the kind's own bits are the reader's.
+int readFlags(RecordReader& reader, SymbolTableRecordMembers& record)
+{
+    const int flags = reader.integer();
+    record.dependent = (flags & kDependent) != 0;
+    return flags;
+}
+
+void readRecord(RecordReader& reader, SymbolTableRecordMembers& record)
+{
+    // Other meanings of the code follow in some kinds.
+    bool hasFlags = false;
+    while (reader.next()) {
+        if (reader.code() == 70 && !hasFlags) {
+            readFlags(reader, record);
+            hasFlags = true;
+        }
+    }
+}
+
+/// A layer's transparency is extended data, coded like an entity's.
+void takeTransparency(const KdDbObject& object, LayerMembers& layer)
+{
+    const resbuf* end = nullptr;
+    const resbuf* record = object.extendedData(L"AcCmTransparency", end);
+    for (; record != end; record = record->rbnext) {
+        if (record->restype == 1071)
+            layer.transparency = static_cast<std::uint32_t>(record->resval.rlong);
+    }
+}
+
+void takeLayerColor(RecordReader& reader, LayerMembers& layer, bool hasTrueColor)
+{
+    const int index = reader.integer();
+    layer.off = index < 0;
+    if (!hasTrueColor)
+        layer.color = colorWordOfIndex(index < 0 ? -index : index);
+}
+
+void readLayer(RecordReader& reader, LayerMembers& layer)
+{
+    bool hasTrueColor = false;
+    while (reader.next()) {
+        switch (reader.code()) {
+        case 6:
+            layer.linetype = reader.source().linetype(reader.group());
+            break;
+        case 62:
+            takeLayerColor(reader, layer, hasTrueColor);
+            break;
+        case 70: {
+            const int flags = readFlags(reader, layer);
+            layer.frozen = (flags & kFrozen) != 0;
+            layer.locked = (flags & kLocked) != 0;
+            break;
+        }
+        case 290:
+            layer.plottable = reader.flag();
+            break;
+        case 370:
+            layer.lineweight = reader.shortInteger();
+            break;
+        case 390:
+            layer.plotStyle = reader.reference();
+            break;
+        case 420:
+            layer.color = colorWordOfRgb(reader.integer());
+            hasTrueColor = true;
+            break;
+        default:
+            break;
+        }
+    }
+    takeTransparency(reader.object(), layer);
+}
+
+void readLinetype(RecordReader& reader, LinetypeMembers& linetype)
+{
+    while (reader.next()) {
+        switch (reader.code()) {
+        case 3:
+            linetype.comments = reader.text();
+            break;
+        case 40:
+            linetype.patternLength = reader.real();
+            break;
+        case 49:
+            linetype.dashes.push_back(reader.real());
+            break;
+        case 70:
+            readFlags(reader, linetype);
+            break;
+        default:
+            break;
+        }
+    }
+}
+
+void readTextStyle(RecordReader& reader, TextStyleMembers& style)
+{
+    while (reader.next()) {
+        switch (reader.code()) {
+        case 3:
+            style.fileName = reader.text();
+            break;
+        case 40:
+            style.textSize = reader.real();
+            break;
+        case 41:
+            style.xScale = reader.real();
+            break;
+        case 50:
+            style.obliquingAngle = reader.angle();
+            break;
+        case 70: {
+            const int flags = readFlags(reader, style);
+            style.shapeFile = (flags & kShapeFile) != 0;
+            style.vertical = (flags & kVertical) != 0;
+            break;
+        }
+        default:
+            break;
+        }
+    }
+}
+
+void readUcs(RecordReader& reader, UCSMembers& ucs)
+{
+    while (reader.next()) {
+        switch (reader.code()) {
+        case 10:
+            ucs.origin = reader.point();
+            break;
+        case 11:
+            ucs.xAxis = reader.vector();
+            break;
+        case 12:
+            ucs.yAxis = reader.vector();
+            break;
+        case 70:
+            readFlags(reader, ucs);
+            break;
+        default:
+            break;
+        }
+    }
+}
+
+/// Up to R2004 the units of a block are extended data: a word, a brace, a version, the units.
+void takeOldUnits(const KdDbObject& object, BlockMembers& block)
+{
+    const resbuf* end = nullptr;
+    const resbuf* record = object.extendedData(L"ACAD", end);
+    while (record != end && !(record->restype == 1000 &&
+                              KdString(record->resval.rstring).compare(L"DesignCenter Data") == 0))
+        record = record->rbnext;
+    int integers = 0;
+    for (; record != end; record = record->rbnext) {
+        if (record->restype == 1070 && ++integers == 2) {
+            block.insertUnits = record->resval.rint;
+            return;
+        }
+    }
+}
+
+/// The base point, the path and the flags stand in the block itself.
+void readBlock(RecordReader& reader, BlockMembers& block)
+{
+    constexpr int kFirstWithUnits = 1021;
+    while (reader.next()) {
+        switch (reader.code()) {
+        case 70:
+            if (reader.source().version >= kFirstWithUnits)
+                block.insertUnits = reader.shortInteger();
+            break;
+        case 280:
+            block.explodable = reader.flag();
+            break;
+        case 281:
+            block.scalesUniformly = reader.flag();
+            break;
+        case 340: {
+            const KdDbObjectId layout = reader.reference();
+            if (block.layout.isNull())
+                block.layout = layout;
+            break;
+        }
+        default:
+            break;
+        }
+    }
+    if (reader.source().version < kFirstWithUnits)
+        takeOldUnits(reader.object(), block);
+}
+
+constexpr MemberReaderRow kRows[] = {
+    memberReader<KdDbSymbolTableRecord, SymbolTableRecordMembers, readRecord>(),
+    memberReader<KdDbLayerTableRecord, LayerMembers, readLayer>(),
+    memberReader<KdDbLinetypeTableRecord, LinetypeMembers, readLinetype>(),
+    memberReader<KdDbTextStyleTableRecord, TextStyleMembers, readTextStyle>(),
+    memberReader<KdDbUCSTableRecord, UCSMembers, readUcs>(),
+    memberReader<KdDbBlockTableRecord, BlockMembers, readBlock>(),
+};
+
+} // namespace
+
+std::span<const MemberReaderRow> tableReaders()
+{
+    return kRows;
+}
+
+} // namespace dxf

@@ -1,0 +1,67 @@
+/// The base of everything that can be drawn, and so selected.
+#pragma once
+
+#include <database/color.h>
+#include <database/object.h>
+
+/// What every entity has; see `ObjectMembers`.
+struct KW_EXPORT EntityMembers : ObjectMembers
+{
+    /// The kind of plot style; only `ByName` uses `plotStyle`.
+    enum class PlotStyle : std::uint8_t
+    {
+        ByLayer = 0,
+        ByBlock = 1,
+        DictionaryDefault = 2,
+        ByName = 3,
+    };
+
+    KdDbObjectId linetype; ///< null: by layer
+    KdDbObjectId plotStyle;
+    KdString colorName; ///< "BOOK$COLOR", or a plain colour name
+    double linetypeScale = 1.0;
+    std::uint32_t color = 0xC0000000; ///< the word of a `KdCmColor`
+    std::uint32_t transparency = 0;   ///< see `KdCmTransparency::fromWord`
+    std::int16_t lineweight = -1;     ///< 1/100 mm; -1 by layer, -2 by block, -3 default
+    PlotStyle plotStyleKind = PlotStyle::ByLayer;
+    bool invisible = false;
+};
+
+class KW_EXPORT KdDbEntity : public KdDbObject
+{
+    KD_RX_DECLARE(KdDbEntity)
+    KD_DB_MEMBERS(EntityMembers)
+
+    KdDbObjectId layerId() const { return m_layer; }
+    /// The layer's name; empty if the layer is not there.
+    KdString layer() const;
+    /// Puts the entity on a layer; the entity must be open for write or not yet in a database.
+    void setLayer(KdDbObjectId layer) { m_layer = layer; }
+
+    KdCmColor color() const;
+    KdDbObjectId linetypeId() const { return data().linetype; }
+    /// The linetype's name as its table has it; "ByLayer" where the entity names none.
+    KdString linetype() const;
+    double linetypeScale() const { return data().linetypeScale; }
+    /// 1/100 mm, or -1 by layer, -2 by block, -3 default.
+    int lineWeight() const { return data().lineweight; }
+    KdCmTransparency transparency() const
+    {
+        return KdCmTransparency::fromWord(data().transparency);
+    }
+    /// "ByLayer", "ByBlock", or the key of the style in the plot style dictionary; empty if it is
+    /// not there.
+    KdString plotStyleName() const;
+    bool isInvisible() const { return data().invisible; }
+
+    /// The block table record that the entity is part of; for vertices and attributes, that of the
+    /// entity that owns them.
+    KdDbObjectId blockId() const;
+
+    /// Takes over a vertex, attribute or sequence end that follows this entity in its drawing.
+    /// Entities without parts of their own ignore it.
+    virtual void appendPart(KdDbObjectId /*part*/) {}
+
+  private:
+    KdDbObjectId m_layer;
+};

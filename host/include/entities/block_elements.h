@@ -1,0 +1,57 @@
+/// The parameters, actions, grips and constraints of dynamic blocks, as entities. A drawing holds
+/// them only while one of its blocks stands open in a block editor.
+#pragma once
+
+#include <entities/declare.h>
+
+KD_DB_PLAIN_ENTITY(KdDbBlockElementEntity, KdDbEntity)
+
+// Parameters.
+KD_DB_PLAIN_ENTITY(KdDbBlockParameterEntity, KdDbBlockElementEntity)
+KD_DB_PLAIN_ENTITY(KdDbBlock1PtParameterEntity, KdDbBlockParameterEntity)
+KD_DB_PLAIN_ENTITY(KdDbBlockBasepointParameterEntity, KdDbBlock1PtParameterEntity)
+KD_DB_PLAIN_ENTITY(KdDbBlockPointParameterEntity, KdDbBlock1PtParameterEntity)
+KD_DB_PLAIN_ENTITY(KdDbBlockLookupParameterEntity, KdDbBlock1PtParameterEntity)
+KD_DB_PLAIN_ENTITY(KdDbBlockVisibilityParameterEntity, KdDbBlock1PtParameterEntity)
+KD_DB_PLAIN_ENTITY(KdDbBlock2PtParameterEntity, KdDbBlockParameterEntity)
+KD_DB_PLAIN_ENTITY(KdDbBlockAlignmentParameterEntity, KdDbBlock2PtParameterEntity)
+KD_DB_PLAIN_ENTITY(KdDbBlockFlipParameterEntity, KdDbBlock2PtParameterEntity)
+KD_DB_PLAIN_ENTITY(KdDbBlockLinearParameterEntity, KdDbBlock2PtParameterEntity)
+KD_DB_PLAIN_ENTITY(KdDbBlockPolarParameterEntity, KdDbBlock2PtParameterEntity)
+KD_DB_PLAIN_ENTITY(KdDbBlockRotationParameterEntity, KdDbBlock2PtParameterEntity)
+KD_DB_PLAIN_ENTITY(KdDbBlockXYParameterEntity, KdDbBlock2PtParameterEntity)
+
+// Constraints: the tag shows in the editor, the parameter carries the value.
+KD_DB_PLAIN_ENTITY(KdDbBlockConstraintTagEntity, KdDbBlock2PtParameterEntity)
+KD_DB_PLAIN_ENTITY(KdDbBlockAngularConstraintTagEntity, KdDbBlockConstraintTagEntity)
+KD_DB_PLAIN_ENTITY(KdDbBlockDiametricConstraintTagEntity, KdDbBlockConstraintTagEntity)
+KD_DB_PLAIN_ENTITY(KdDbBlockLinearConstraintTagEntity, KdDbBlockConstraintTagEntity)
+KD_DB_PLAIN_ENTITY(KdDbBlockRadialConstraintTagEntity, KdDbBlockConstraintTagEntity)
+KD_DB_PLAIN_ENTITY(KdDbBlockConstraintParameterEntity, KdDbBlock2PtParameterEntity)
+KD_DB_PLAIN_ENTITY(KdDbBlockAngularConstraintParameterEntity, KdDbBlockConstraintParameterEntity)
+KD_DB_PLAIN_ENTITY(KdDbBlockDiametricConstraintParameterEntity, KdDbBlockConstraintParameterEntity)
+KD_DB_PLAIN_ENTITY(KdDbBlockLinearConstraintParameterEntity, KdDbBlockConstraintParameterEntity)
+KD_DB_PLAIN_ENTITY(KdDbBlockRadialConstraintParameterEntity, KdDbBlockConstraintParameterEntity)
+
+// Actions.
+KD_DB_PLAIN_ENTITY(KdDbBlockActionEntity, KdDbBlockElementEntity)
+KD_DB_PLAIN_ENTITY(KdDbBlockArrayActionEntity, KdDbBlockActionEntity)
+KD_DB_PLAIN_ENTITY(KdDbBlockFlipActionEntity, KdDbBlockActionEntity)
+KD_DB_PLAIN_ENTITY(KdDbBlockLookupActionEntity, KdDbBlockActionEntity)
+KD_DB_PLAIN_ENTITY(KdDbBlockMoveActionEntity, KdDbBlockActionEntity)
+KD_DB_PLAIN_ENTITY(KdDbBlockPolarStretchActionEntity, KdDbBlockActionEntity)
+KD_DB_PLAIN_ENTITY(KdDbBlockStretchActionEntity, KdDbBlockActionEntity)
+KD_DB_PLAIN_ENTITY(KdDbBlockActionEntityWithBasePt, KdDbBlockActionEntity)
+KD_DB_PLAIN_ENTITY(KdDbBlockRotateActionEntity, KdDbBlockActionEntityWithBasePt)
+KD_DB_PLAIN_ENTITY(KdDbBlockScaleActionEntity, KdDbBlockActionEntityWithBasePt)
+
+// Grips.
+KD_DB_PLAIN_ENTITY(KdDbBlockGripEntity, KdDbBlockElementEntity)
+KD_DB_PLAIN_ENTITY(KdDbBlockAlignmentGripEntity, KdDbBlockGripEntity)
+KD_DB_PLAIN_ENTITY(KdDbBlockFlipGripEntity, KdDbBlockGripEntity)
+KD_DB_PLAIN_ENTITY(KdDbBlockLinearGripEntity, KdDbBlockGripEntity)
+KD_DB_PLAIN_ENTITY(KdDbBlockLookupGripEntity, KdDbBlockGripEntity)
+KD_DB_PLAIN_ENTITY(KdDbBlockPolarGripEntity, KdDbBlockGripEntity)
+KD_DB_PLAIN_ENTITY(KdDbBlockRotationGripEntity, KdDbBlockGripEntity)
+KD_DB_PLAIN_ENTITY(KdDbBlockVisibilityGripEntity, KdDbBlockGripEntity)
+KD_DB_PLAIN_ENTITY(KdDbBlockXYGripEntity, KdDbBlockGripEntity)

@@ -1,0 +1,64 @@
+/// Circles and circular arcs.
+#pragma once
+
+#include <entities/curve.h>
+#include <entities/extrusion.h>
+
+struct KW_EXPORT CircleMembers : EntityMembers
+{
+    KdGePoint3d center; ///< OCS
+    double radius = 0.0;
+    Extrusion extrusion;
+};
+
+class KW_EXPORT KdDbCircle : public KdDbCurve
+{
+    KD_RX_DECLARE(KdDbCircle)
+    KD_DB_MEMBERS(CircleMembers)
+
+    /// In WCS.
+    KdGePoint3d center() const { return data().extrusion.toWorld(data().center); }
+    double radius() const { return data().radius; }
+    double thickness() const { return data().extrusion.thickness; }
+    /// In WCS, of length 1.
+    KdGeVector3d normal() const { return data().extrusion.normal(); }
+
+    /// The parameter is the angle from the x axis of the object frame, which is where it starts.
+    bool isClosed() const override;
+    KdErrorStatus getStartParam(double& parameter) const override;
+    KdErrorStatus getEndParam(double& parameter) const override;
+    KdErrorStatus getStartPoint(KdGePoint3d& point) const override;
+    KdErrorStatus getEndPoint(KdGePoint3d& point) const override;
+    KdErrorStatus getArea(double& area) const override;
+};
+
+/// An arc is its circle and two angles. They are in radians, counter-clockwise about the normal
+/// from the x axis of the object frame; an end below the start lies in the next turn.
+struct KW_EXPORT ArcMembers : CircleMembers
+{
+    double startAngle = 0.0;
+    double endAngle = 0.0;
+};
+
+class KW_EXPORT KdDbArc : public KdDbCurve
+{
+    KD_RX_DECLARE(KdDbArc)
+    KD_DB_MEMBERS(ArcMembers)
+
+    /// In WCS.
+    KdGePoint3d center() const { return data().extrusion.toWorld(data().center); }
+    double radius() const { return data().radius; }
+    /// In radians, as the drawing has them; see `ArcMembers`.
+    double startAngle() const { return data().startAngle; }
+    double endAngle() const { return data().endAngle; }
+    double thickness() const { return data().extrusion.thickness; }
+    /// In WCS, of length 1.
+    KdGeVector3d normal() const { return data().extrusion.normal(); }
+
+    /// The parameter is the angle, which in the end is not below that of the start.
+    KdErrorStatus getStartParam(double& parameter) const override;
+    KdErrorStatus getEndParam(double& parameter) const override;
+    KdErrorStatus getStartPoint(KdGePoint3d& point) const override;
+    KdErrorStatus getEndPoint(KdGePoint3d& point) const override;
+    KdErrorStatus getArea(double& area) const override;
+};

@@ -1,0 +1,6 @@
+/// Tolerance frames.
+#pragma once
+
+#include <entities/declare.h>
+
+KD_DB_PLAIN_ENTITY(KdDbFcf, KdDbEntity)

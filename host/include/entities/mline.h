@@ -1,0 +1,6 @@
+/// Multilines.
+#pragma once
+
+#include <entities/declare.h>
+
+KD_DB_PLAIN_ENTITY(KdDbMline, KdDbEntity)

@@ -1,0 +1,45 @@
+/// Reads drawing files: DXF of all versions up to R2018, as text and binary.
+#pragma once
+
+#include <cstddef>
+#include <filesystem>
+#include <functional>
+#include <memory>
+#include <vector>
+
+#include <database/database.h>
+#include <exchange/findings.h>
+
+struct ReadOptions
+{
+    /// Reads the members of all objects at once and not each on first use. The outcome is the same,
+    /// except that the report then knows what is wrong inside entities as well.
+    bool readAllMembers = false;
+    /// Called now and then with the part that is done, 0 to 1. Answering false cancels.
+    std::function<bool(double fraction)> progress;
+};
+
+struct ReadReport
+{
+    /// At most this many findings are kept; all are counted.
+    static constexpr std::size_t kMostFindings = 200;
+
+    KdString error;   ///< why nothing was read; empty on success
+    KdString version; ///< such as "AC1015"; "AC1009" where the file does not say
+    bool binary = false;
+    std::size_t entities = 0; ///< in all blocks; vertices, attributes and sequence ends not counted
+    std::size_t unknownEntities = 0;
+    std::vector<ReadFinding> findings; ///< in the order in which they were met
+    std::size_t totalFindings = 0;
+    bool complete = false; ///< false if the file ended early or a section was not closed
+};
+
+/// Reads a drawing. What can be read of a damaged file is read, the rest stands in the report.
+/// @param file      the file; it is read into memory whole, so it may change or go afterwards
+/// @param database  receives the drawing, owned by the caller; untouched on failure
+/// @param report    what was read and found; on failure its `error` is a sentence for the user
+/// @return          `eFileAccessError` for a file that is missing, no regular file or unreadable,
+///                  `eBadDrawing` for one that is empty or no DXF, `eUserBreak` when cancelled
+KW_EXPORT KdErrorStatus readDrawing(const std::filesystem::path& file,
+                                    std::unique_ptr<KdDbDatabase>& database, ReadReport& report,
+                                    const ReadOptions& options = {});

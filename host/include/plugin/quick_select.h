@@ -1,0 +1,116 @@
+/// How a host talks to the quick-select module: the names of its exported functions, and the plain
+/// records that pass between the two. A host loads the shared object, looks the functions up by
+/// name and needs nothing else of it.
+#pragma once
+
+#include <cstddef>
+
+#include <database/object_id.h>
+
+namespace quick_select {
+
+/// Reasons for `DllMain`.
+constexpr unsigned kDetach = 0;
+constexpr unsigned kAttach = 1;
+
+/// One value of a property. Which member counts follows from `restype`: 5001, 5004 and 48 `number`;
+/// 280, 290, 5003, 5010 and 5011 `integer` (a colour as its word); 5002 and 5009 `point`; all other
+/// kinds but 5000 `text`.
+struct Value
+{
+    int restype;
+    const wchar_t* text;
+    double number;
+    long long integer;
+    double point[3];
+};
+
+/// One property of an entity, with what it allows.
+struct Property
+{
+    const wchar_t* key; ///< category, colon, name; ordering tabs included
+    bool readOnly;
+    /// The head, or all points of a property that has several; empty if nothing answers for it.
+    const Value* values;
+    std::size_t valueCount;
+    /// The allowed values; empty unless asked for and offered.
+    const Value* choices;
+    std::size_t choiceCount;
+};
+
+/// An object type that the candidates hold.
+struct Type
+{
+    const wchar_t* displayName;
+    const wchar_t* className;
+    KdDbObjectId example; ///< the first entity of the type
+    std::size_t count;    ///< entities of the type
+};
+
+/// An entity of the current space.
+struct Entity
+{
+    KdDbObjectId id;
+    const wchar_t* className;
+    const wchar_t* displayName;
+};
+
+/// One run without a dialog. Null texts count as empty.
+struct Request
+{
+    const wchar_t* typeName;     ///< display name of the type; empty for all types
+    const wchar_t* className;    ///< runtime class of the type; ignored without a type
+    const wchar_t* propertyKey;  ///< the whole key, without an axis
+    int axis;                    ///< 1 X, 2 Y, 3 Z for a point; 0 otherwise
+    int kind;                    ///< restype of the property's value
+    const wchar_t* operatorText; ///< "=", "<>", ">", "<", "*"; empty selects all
+    const wchar_t* valueText;    ///< the value as a person types it
+    bool exclude;                ///< everything but the matches
+    bool append;                 ///< add to the selection in place of replacing it
+    bool fromSelection;          ///< over the starting selection, not the whole space
+};
+
+enum class Outcome : int
+{
+    Done = 0,        ///< the selection is set
+    NoDrawing = 1,   ///< there is no working database, or its current space can't be read
+    NoObjects = 2,   ///< the current space holds nothing that can be selected
+    BadOperator = 3, ///< the property's kind does not offer the operator
+    BadValue = 4,    ///< the value is no value of the property's kind
+    Abandoned = 5,   ///< an entity has no provider: the module is not initialised
+};
+
+struct Result
+{
+    Outcome outcome;
+    int matches; ///< as the count line tells it
+};
+
+using TypeVisitor = void (*)(void* context, const Type& type);
+using EntityVisitor = void (*)(void* context, const Entity& entity);
+using PropertyVisitor = void (*)(void* context, const Property& property);
+using OperatorVisitor = void (*)(void* context, const wchar_t* operatorText);
+
+// The exported functions. A host declares a pointer of the type and looks the name up.
+
+using DllMainFunction = int(void* module, unsigned reason, void* reserved);
+using QSelectInitFunction = void();
+using QSelectUnInitFunction = void();
+using SelectCmdFunction = void();
+using SelectCmdExFunction = void(long* selectionSet);
+/// "QSelectRun": gathers, matches and hands over as the command does, without a dialog.
+/// `selectionSet` is the starting selection, or null for the host's own.
+using QSelectRunFunction = void(const Request& request, long* selectionSet, Result& result);
+/// "QSelectListTypes": the types in the current space, or in the selection set if that is not null.
+using QSelectListTypesFunction = void(long* selectionSet, TypeVisitor visitor, void* context);
+/// "QSelectListEntities": the entities in the current space, or in the selection set, in its order.
+using QSelectListEntitiesFunction = void(long* selectionSet, EntityVisitor visitor, void* context);
+/// "QSelectListProperties": the properties of an entity with their values, in the module's order.
+/// With `onlyKey` that one alone, listed or not.
+using QSelectListPropertiesFunction = void(KdDbObjectId entity, const wchar_t* onlyKey,
+                                           bool withChoices, PropertyVisitor visitor,
+                                           void* context);
+/// "QSelectListOperators": the operators that values of a kind offer, in the dialog's order.
+using QSelectListOperatorsFunction = void(int restype, OperatorVisitor visitor, void* context);
+
+} // namespace quick_select

@@ -1,0 +1,76 @@
+#include <command/entry.h>
+
+#include <command/property_listing.h>
+#include <command/qselect_command.h>
+#include <command/registration.h>
+#include <command/request.h>
+#include <command/resource_scope.h>
+#include <providers/entity_pe.h>
+
+void QSelectInit()
+{
+    KdDbEntityPE::rxInit();
+    KdDbEntity_Extension::rxInit();
+    addXs();
+}
+
+void QSelectUnInit()
+{
+    delXs();
+    deleteKdRxClass(KdDbEntity_Extension::desc());
+    deleteKdRxClass(KdDbEntityPE::desc());
+}
+
+void selectCmd()
+{
+    const ResourceScope resources;
+    DDQSelectCommand command;
+    command.execute(nullptr);
+}
+
+void selectCmdEx(long* ss)
+{
+    const ResourceScope resources;
+    DDQSelectCommand command;
+    command.execute(ss);
+}
+
+void QSelectCmd()
+{
+    selectCmd();
+}
+
+void QSelectDialog(long* ss)
+{
+    selectCmdEx(ss);
+}
+
+void QSelectRun(const quick_select::Request& request, long* ss, quick_select::Result& result)
+{
+    const ResourceScope resources;
+    result = runRequest(request, ss);
+}
+
+void QSelectListTypes(long* ss, quick_select::TypeVisitor visitor, void* context)
+{
+    const ResourceScope resources;
+    listTypes(ss, visitor, context);
+}
+
+void QSelectListEntities(long* ss, quick_select::EntityVisitor visitor, void* context)
+{
+    const ResourceScope resources;
+    listEntities(ss, visitor, context);
+}
+
+void QSelectListProperties(KdDbObjectId entity, const wchar_t* onlyKey, bool withChoices,
+                           quick_select::PropertyVisitor visitor, void* context)
+{
+    const ResourceScope resources;
+    listProperties(entity, onlyKey, withChoices, visitor, context);
+}
+
+void QSelectListOperators(int restype, quick_select::OperatorVisitor visitor, void* context)
+{
+    listOperators(restype, visitor, context);
+}

@@ -1,0 +1,3 @@
+#include <dialog/multi_text.h>
+
+CStdStr<wchar_t>* g_pstrMulti = nullptr;

@@ -1,0 +1,21 @@
+/// Providers of the dimensions.
+#pragma once
+
+#include <entities/all.h>
+
+#include <providers/entity_pe.h>
+#include <providers/table_provider.h>
+
+// clang-format off
+KW_CLASS_CHECKED_PROVIDER(KdDbDimension_Extension, KdDbEntity_Extension, KdDbDimension)
+
+KW_CLASS_CHECKED_PROVIDER(KdDbRotatedDimension_Extension, KdDbDimension_Extension, KdDbRotatedDimension)
+KW_CLASS_CHECKED_PROVIDER(KdDbAlignedDimension_Extension, KdDbDimension_Extension, KdDbAlignedDimension)
+KW_CLASS_CHECKED_PROVIDER(KdDbArcDimension_Extension, KdDbDimension_Extension, KdDbArcDimension)
+KW_CLASS_CHECKED_PROVIDER(KdDbAngularDimension_Extension, KdDbDimension_Extension, KdDb2LineAngularDimension)
+KW_CLASS_CHECKED_PROVIDER(KdDb3PointAngularDimension_Extension, KdDbDimension_Extension, KdDb3PointAngularDimension)
+KW_CLASS_CHECKED_PROVIDER(KdDbRadialDimension_Extension, KdDbDimension_Extension, KdDbRadialDimension)
+KW_CLASS_CHECKED_PROVIDER(KdDbRadialLargeDimension_Extension, KdDbDimension_Extension, KdDbRadialDimensionLarge)
+KW_CLASS_CHECKED_PROVIDER(KdDbDiametricDimension_Extension, KdDbDimension_Extension, KdDbDiametricDimension)
+KW_CLASS_CHECKED_PROVIDER(KdDbOrdinateDimension_Extension, KdDbDimension_Extension, KdDbOrdinateDimension)
+// clang-format on

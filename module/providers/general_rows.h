@@ -1,0 +1,8 @@
+/// The eight properties that every entity has.
+#pragma once
+
+#include <span>
+
+#include <providers/property_row.h>
+
+std::span<const PropertyRow> generalRows();

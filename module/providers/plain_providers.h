@@ -1,0 +1,22 @@
+/// Providers that answer the General properties and no more.
+#pragma once
+
+#include <providers/entity_pe.h>
+#include <providers/table_provider.h>
+
+KW_PLAIN_PROVIDER(KdDbAttribute_Extension, KdDbEntity_Extension)
+KW_PLAIN_PROVIDER(KdDbBody_Extension, KdDbEntity_Extension)
+KW_PLAIN_PROVIDER(KdDbDgnReference_Extension, KdDbEntity_Extension)
+KW_PLAIN_PROVIDER(KdDbDwfReference_Extension, KdDbEntity_Extension)
+KW_PLAIN_PROVIDER(KdDbExtrudedSurface_Extension, KdDbEntity_Extension)
+KW_PLAIN_PROVIDER(KdDbFaceRecord_Extension, KdDbEntity_Extension)
+KW_PLAIN_PROVIDER(KdDbFrame_Extension, KdDbEntity_Extension)
+KW_PLAIN_PROVIDER(KdDbImage_Extension, KdDbEntity_Extension)
+KW_PLAIN_PROVIDER(KdDbLoftedSurface_Extension, KdDbEntity_Extension)
+KW_PLAIN_PROVIDER(KdDbMPolygon_Extension, KdDbEntity_Extension)
+KW_PLAIN_PROVIDER(KdDbPlaneSurface_Extension, KdDbEntity_Extension)
+KW_PLAIN_PROVIDER(KdDbSurface_Extension, KdDbEntity_Extension)
+KW_PLAIN_PROVIDER(KdDbSweptSurface_Extension, KdDbEntity_Extension)
+KW_PLAIN_PROVIDER(KdDbTable_Extension, KdDbEntity_Extension)
+KW_PLAIN_PROVIDER(KdDbUnderlayReference_Extension, KdDbEntity_Extension)
+KW_PLAIN_PROVIDER(KdDbVertex_Extension, KdDbEntity_Extension)

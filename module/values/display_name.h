@@ -1,0 +1,34 @@
+/// The names under which types of entities appear to the user, and by which a run tells them apart.
+#pragma once
+
+#include <unordered_map>
+
+#include <database/entity.h>
+#include <platform/com.h>
+#include <runtime/std_str.h>
+
+/// The display name of an entity's type, from the module's table of classes or else from the host's
+/// object model. Empty for null, for a class of the table without a text, and where the object
+/// model has no name. Takes constant time for the classes of the table.
+CStdStr<wchar_t> GetLocalNameOfKdDbEntityEx(const KdDbEntity* entity);
+
+/// Display names for the length of a run, in which a class of the table is looked up once. The name
+/// of every other class is asked for anew, since entities of one class may have different ones.
+class DisplayNames
+{
+  public:
+    /// As `GetLocalNameOfKdDbEntityEx`; valid until the next call.
+    const CStdStr<wchar_t>& of(const KdDbEntity& entity);
+
+  private:
+    std::unordered_map<const KdRxClass*, CStdStr<wchar_t>> m_ofClass;
+    CStdStr<wchar_t> m_ofEntity;
+};
+
+/// The display name that the host's object model gives to an entity's type; empty if it has none.
+CStdStr<wchar_t> GetEntityDisplayName(KdDbObjectId id);
+
+/// The class id of an object in the host's object model; entities without one of their own get the
+/// id of entities at large.
+/// @return 1, or 0 with `classId` untouched if the object can't be opened or is no entity
+int GetCLSID(CLSID& classId, KdDbObjectId id);

@@ -1,0 +1,30 @@
+/// From the text that a person types to the value that a run compares with.
+#pragma once
+
+#include <runtime/kd_string.h>
+
+#include <values/res_buf.h>
+
+/// What became of a text.
+enum class FilterText
+{
+    Read,       ///< `record` holds the value
+    Empty,      ///< the kind needs a text and there is none: nothing to compare with
+    NotANumber, ///< an integer with something left over
+    Unreadable, ///< the text is no value of the kind
+};
+
+struct FilterValue
+{
+    FilterText text = FilterText::Empty;
+    /// Owned by whoever takes it; null unless `Read`. Reals that can't be read leave a record with
+    /// 1.0 beside `Unreadable`, for callers that go on with it.
+    ResBuf* record = nullptr;
+    /// The kind of the comparison, see `PropertyParameters`.
+    int valueType = ResBuf::kNone;
+};
+
+/// Reads `text` as a value of `kind`.
+/// @param kind  restype of the property's value
+/// @param axis  1 X, 2 Y, 3 Z: the coordinate that the text is, for the point kinds
+FilterValue readFilterValue(int kind, int axis, const KdString& text);

@@ -1,0 +1,6 @@
+#include <values/kdad_resbuf.h>
+
+resbuf* KdadNewResbuf(int restype)
+{
+    return kdutNewRb(static_cast<short>(restype));
+}

@@ -1,0 +1,8 @@
+/// Everything that the module knows of a drawing's entities.
+#pragma once
+
+#include <common/module.h>
+
+/// Prints one JSON object a line for each entity of the current space, in the order of the drawing:
+/// handle, class name, display name, and every listed property with key, restype and value.
+void dumpEntities(const Module& module);

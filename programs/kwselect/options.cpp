@@ -1,0 +1,62 @@
+#include "options.h"
+
+#include <iostream>
+
+#include <CLI/CLI.hpp>
+
+#include "exit_status.h"
+
+namespace {
+
+constexpr const char* kDescription =
+    R"(Selects the entities of a drawing whose property passes a test and prints their handles.
+
+Examples:
+  kwselect plan.dxf --type Circle --property "Linetype scale" --operator ">" --value 1
+  kwselect plan.dxf --type Line --property Layer --value WALLS --exclude
+  kwselect plan.dxf --property Color --value red
+  kwselect plan.dxf --list types
+  kwselect plan.dxf --list properties --type Circle
+  kwselect plan.dxf --dump
+
+Exit status: 0 something selected, 1 nothing selected, 2 wrong usage or an unreadable drawing,
+3 a drawing that could be read only in part.
+)";
+
+void declare(CLI::App& app, Options& options)
+{
+    app.set_version_flag("--version", "kwselect " KW_VERSION, "Print the version and exit");
+    app.add_option("DRAWING", options.drawing, "The drawing, a DXF file")->required();
+    app.add_option("-t,--type", options.type, "Object type; without it all types are searched");
+    app.add_option(
+        "-p,--property", options.property,
+        "Property, by its name (\"Layer\") or its key (\"General:Layer\"); of a point one "
+        "coordinate (\"Start X\")");
+    app.add_option("-o,--operator", options.op,
+                   "One of =, <>, >, <, * (wildcard match) and all (the default without a value)");
+    app.add_option("-v,--value", options.value, "Value to compare with");
+    app.add_flag("--exclude", options.exclude, "Select everything that does not match");
+    const auto list = app.add_option("--list", options.list, "List what can be asked for and exit")
+                          ->check(CLI::IsMember({"types", "properties", "values"}));
+    app.add_flag("--dump", options.dump,
+                 "Print every entity with all its properties, one JSON object a line")
+        ->excludes(list);
+}
+
+} // namespace
+
+std::optional<int> readOptions(int argc, char** argv, Options& options)
+{
+    CLI::App app(kDescription, "kwselect");
+    declare(app, options);
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::ParseError& error) {
+        const bool isHelp = error.get_exit_code() == 0;
+        if (isHelp)
+            return app.exit(error);
+        std::cerr << "kwselect: " << error.what() << "\nTry: kwselect --help\n";
+        return kCannotWork;
+    }
+    return std::nullopt;
+}

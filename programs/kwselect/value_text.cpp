@@ -1,0 +1,113 @@
+#include "value_text.h"
+
+#include <charconv>
+#include <cmath>
+
+#include <database/color.h>
+#include <runtime/utf8.h>
+
+namespace {
+
+using Json = nlohmann::ordered_json;
+
+enum Kind : int
+{
+    kReal = 5001,
+    kPoint2d = 5002,
+    kInt16 = 5003,
+    kAngle = 5004,
+    kPoint3d = 5009,
+    kInt32 = 5010,
+    kColor = 5011,
+    kLinetypeScale = 48,
+    kInt8 = 280,
+    kBool = 290,
+};
+
+std::string numberText(double number)
+{
+    char buffer[32];
+    const auto end = std::to_chars(buffer, buffer + sizeof buffer, number).ptr;
+    return std::string(buffer, end);
+}
+
+Json colorJson(long long word)
+{
+    const KdCmColor color(static_cast<std::uint32_t>(word));
+    switch (color.colorMethod()) {
+    case KdCmColor::kByLayer:
+        return "ByLayer";
+    case KdCmColor::kByBlock:
+        return "ByBlock";
+    case KdCmColor::kByACI:
+        return color.colorIndex();
+    default:
+        return std::to_string(color.red()) + ',' + std::to_string(color.green()) + ',' +
+               std::to_string(color.blue());
+    }
+}
+
+Json numberJson(double number)
+{
+    return std::isfinite(number) ? Json(number) : Json(nullptr);
+}
+
+Json pointJson(const PropertyValue& value, int dimensions)
+{
+    Json point = Json::array();
+    for (int i = 0; i < dimensions; ++i)
+        point.push_back(numberJson(value.point[i]));
+    return point;
+}
+
+} // namespace
+
+Json valueJson(const PropertyValue& value)
+{
+    switch (value.restype) {
+    case kReal:
+    case kAngle:
+    case kLinetypeScale:
+        return numberJson(value.number);
+    case kInt8:
+    case kInt16:
+    case kInt32:
+        return value.integer;
+    case kBool:
+        return value.integer != 0;
+    case kColor:
+        return colorJson(value.integer);
+    case kPoint2d:
+        return pointJson(value, 2);
+    case kPoint3d:
+        return pointJson(value, 3);
+    default:
+        return kdToUtf8(value.text);
+    }
+}
+
+Json valuesJson(const std::vector<PropertyValue>& values)
+{
+    if (values.empty())
+        return nullptr;
+    if (values.size() == 1)
+        return valueJson(values.front());
+    Json all = Json::array();
+    for (const PropertyValue& value : values)
+        all.push_back(valueJson(value));
+    return all;
+}
+
+std::string valueText(const PropertyValue& value)
+{
+    const Json json = valueJson(value);
+    if (json.is_string())
+        return json.get<std::string>();
+    if (!json.is_array())
+        return json.dump();
+    std::string text;
+    for (const Json& coordinate : json)
+        text += (text.empty() ? "" : ",") +
+                numberText(coordinate.is_null() ? NAN : coordinate.get<double>());
+    return text;
+}

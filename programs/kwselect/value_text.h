@@ -1,0 +1,15 @@
+/// Property values as text and as JSON.
+#pragma once
+
+#include <string>
+
+#include <common/catalog.h>
+#include <nlohmann/json.hpp>
+
+/// A value as it can be typed again: numbers in their shortest form, coordinates between commas.
+std::string valueText(const PropertyValue& value);
+
+/// Numbers as numbers, points as arrays, colours as they are typed, all else as text.
+nlohmann::ordered_json valueJson(const PropertyValue& value);
+/// One value as itself, several as an array, none as null.
+nlohmann::ordered_json valuesJson(const std::vector<PropertyValue>& values);

@@ -1,0 +1,57 @@
+/// What the tests of entities share.
+#pragma once
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <geometry/point.h>
+
+namespace entity_test {
+
+constexpr double kNear = 1e-12;
+
+/// Directions of extrusion, and where the point (2, 3, 5) of their object frames lies in the world.
+constexpr KdGePoint3d kPointInFrame{2.0, 3.0, 5.0};
+
+struct FrameRow
+{
+    const char* name;
+    KdGeVector3d direction;
+    KdGeVector3d normal;
+    KdGePoint3d world;
+};
+
+constexpr FrameRow kFrames[] = {
+    {"upward", {0, 0, 1}, {0, 0, 1}, {2, 3, 5}},
+    // x axis = (0,1,0) x N = (-1,0,0), y axis = N x (-1,0,0) = (0,1,0)
+    {"downward", {0, 0, -1}, {0, 0, -1}, {-2, 3, -5}},
+    // x axis = (0,0,1) x N = (0,1,0), y axis = N x (0,1,0) = (-0.8,0,0.6)
+    {"tilted", {3, 0, 4}, {0.6, 0, 0.8}, {0.6, 2, 5.8}},
+    {"withoutLength", {0, 0, 0}, {0, 0, 1}, {2, 3, 5}},
+};
+
+class InEachFrame : public testing::TestWithParam<FrameRow>
+{
+};
+
+inline auto frames()
+{
+    return testing::ValuesIn(kFrames);
+}
+
+inline auto frameName()
+{
+    return [](const testing::TestParamInfo<FrameRow>& info) { return info.param.name; };
+}
+
+MATCHER_P(IsNear, expected, "")
+{
+    return testing::ExplainMatchResult(testing::DoubleNear(expected.x, kNear), arg.x,
+                                       result_listener) &&
+           testing::ExplainMatchResult(testing::DoubleNear(expected.y, kNear), arg.y,
+                                       result_listener) &&
+           testing::ExplainMatchResult(testing::DoubleNear(expected.z, kNear), arg.z,
+                                       result_listener);
+}
+
+} // namespace entity_test

@@ -1,0 +1,242 @@
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "ascii_groups.h"
+#include "file_bytes.h"
+#include "file_form.h"
+#include "group_values.h"
+#include "made_drawing.h"
+
+namespace {
+
+using namespace dxf;
+
+struct Read
+{
+    int code;
+    std::string text;
+    bool operator==(const Read&) const = default;
+};
+void PrintTo(const Read& read, std::ostream* out)
+{
+    *out << read.code << "=" << read.text;
+}
+
+std::vector<Read> readText(const std::string& text, Findings* findings = nullptr)
+{
+    const FileBytes bytes = FileBytes::copyOf(text);
+    AsciiGroups groups(bytes.data(), 0, bytes.size(), findings);
+    std::vector<Read> all;
+    Group group;
+    while (groups.next(group))
+        all.push_back({group.code, std::string(group.text)});
+    return all;
+}
+
+TEST(AsciiGroups, AllowBlanksAroundCodesAndKeepThoseOfValues)
+{
+    EXPECT_EQ(readText("  0\nLINE\n\t8 \n a b \n"), (std::vector<Read>{{0, "LINE"}, {8, " a b "}}));
+}
+
+TEST(AsciiGroups, LeaveOutComments)
+{
+    EXPECT_EQ(readText("999\nby hand\n0\nEOF\n"), (std::vector<Read>{{0, "EOF"}}));
+}
+
+TEST(AsciiGroups, ReadNegativeCodes)
+{
+    EXPECT_EQ(readText("-3\nx\n"), (std::vector<Read>{{-3, "x"}}));
+}
+
+TEST(AsciiGroups, FindTheWayBackAfterALineThatIsNoCode)
+{
+    Findings findings;
+    EXPECT_EQ(readText("1\ntwo\nlines\n40\n2.5\n", &findings),
+              (std::vector<Read>{{1, "two"}, {40, "2.5"}}));
+    ASSERT_EQ(findings.total(), 1u);
+    EXPECT_EQ(findings.kept()[0].number, static_cast<int>(DrawingFinding::BadGroupCode));
+}
+
+TEST(AsciiGroups, SayNothingOfBlankLinesAtTheEnd)
+{
+    Findings findings;
+    EXPECT_EQ(readText("0\nEOF\n\n  \n\n", &findings), (std::vector<Read>{{0, "EOF"}}));
+    EXPECT_EQ(findings.total(), 0u);
+}
+
+TEST(AsciiGroups, DropACodeWithoutValue)
+{
+    EXPECT_EQ(readText("0\nEOF\n8"), (std::vector<Read>{{0, "EOF"}}));
+}
+
+TEST(AsciiGroups, RefuseCodesOutOfRange)
+{
+    EXPECT_EQ(readText("99999999999999999999\n0\nEOF\n"), (std::vector<Read>{{0, "EOF"}}));
+}
+
+struct BinaryCase
+{
+    const char* name;
+    bool narrow;
+};
+
+class BinaryGroupsOf : public testing::TestWithParam<BinaryCase>
+{
+  protected:
+    std::vector<Group> read(const Groups& groups)
+    {
+        m_bytes = FileBytes::copyOf(asBinary(groups, GetParam().narrow));
+        KdString error;
+        EXPECT_EQ(recognise(m_bytes.view(), m_form, error), eOk);
+        GroupStream stream(m_form, m_form.begin, m_bytes.size(), nullptr);
+        std::vector<Group> all;
+        Group group;
+        while (stream.next(group))
+            all.push_back(group);
+        return all;
+    }
+
+    FileBytes m_bytes;
+    FileForm m_form;
+};
+
+TEST_P(BinaryGroupsOf, IsRecognised)
+{
+    read({{0, "SECTION"}, {0, "EOF"}});
+    EXPECT_TRUE(m_form.binary);
+    EXPECT_EQ(m_form.width == CodeWidth::OneByte, GetParam().narrow);
+}
+
+TEST_P(BinaryGroupsOf, KeepsValuesOfEveryForm)
+{
+    const std::vector<Group> all = read({{0, "SECTION"},
+                                         {10, "-1.5"},
+                                         {70, "-2"},
+                                         {90, "70000"},
+                                         {160, "5000000000"},
+                                         {290, "1"},
+                                         {310, "00FF7A"},
+                                         {1071, "-5"},
+                                         {1004, "41"},
+                                         {5, "A0F"}});
+    ASSERT_EQ(all.size(), 10u);
+    EXPECT_EQ(all[0].text, "SECTION");
+    EXPECT_EQ(all[1].real, -1.5);
+    EXPECT_EQ(all[2].integer, -2);
+    EXPECT_EQ(all[3].integer, 70000);
+    EXPECT_EQ(all[4].integer, 5000000000);
+    EXPECT_EQ(all[5].integer, 1);
+    EXPECT_EQ(all[6].text, std::string_view("\0\xFFz", 3));
+    EXPECT_EQ(all[7].integer, -5);
+    EXPECT_EQ(all[8].text, "A");
+    EXPECT_EQ(looseHandleOf(all[9]), 0xA0Fu);
+}
+
+TEST_P(BinaryGroupsOf, LeavesOutAComment)
+{
+    const std::vector<Group> all = read({{999, "by hand"}, {0, "SECTION"}});
+    ASSERT_EQ(all.size(), 1u);
+    EXPECT_EQ(all[0].text, "SECTION");
+}
+
+TEST_P(BinaryGroupsOf, EndsWhereAValueIsCutOff)
+{
+    std::string content = asBinary({{0, "SECTION"}, {10, "1"}}, GetParam().narrow);
+    const std::size_t whole = content.size();
+    for (std::size_t size = whole - 8; size < whole; ++size) {
+        const FileBytes bytes = FileBytes::copyOf(content.substr(0, size));
+        FileForm form;
+        KdString error;
+        ASSERT_EQ(recognise(bytes.view(), form, error), eOk);
+        GroupStream stream(form, form.begin, bytes.size(), nullptr);
+        Group group;
+        EXPECT_TRUE(stream.next(group));
+        EXPECT_FALSE(stream.next(group)) << size;
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Widths, BinaryGroupsOf,
+                         testing::Values(BinaryCase{"codesOfOneByte", true},
+                                         BinaryCase{"codesOfTwoBytes", false}),
+                         [](const auto& row) { return row.param.name; });
+
+struct NumberCase
+{
+    const char* name;
+    const char* text;
+    double value;
+    NumberState state;
+};
+
+class RealFrom : public testing::TestWithParam<NumberCase>
+{
+};
+
+TEST_P(RealFrom, Text)
+{
+    double value = -1.0;
+    EXPECT_EQ(parseReal(GetParam().text, value), GetParam().state);
+    EXPECT_DOUBLE_EQ(value, GetParam().value);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Numbers, RealFrom,
+    testing::Values(NumberCase{"plain", "2.5", 2.5, NumberState::Good},
+                    NumberCase{"blanks", "  -7.25\t", -7.25, NumberState::Good},
+                    NumberCase{"plusSign", "+3", 3.0, NumberState::Good},
+                    NumberCase{"exponent", "1.5E+02", 150.0, NumberState::Good},
+                    NumberCase{"pointAlone", ".5", 0.5, NumberState::Good},
+                    NumberCase{"comma", "12,75", 12.75, NumberState::Comma},
+                    NumberCase{"commaAndExponent", "1,5e1", 15.0, NumberState::Comma},
+                    NumberCase{"commaAndRest", "1,5x", 1.5, NumberState::Malformed},
+                    NumberCase{"lettersBehind", "7abc", 7.0, NumberState::Malformed},
+                    NumberCase{"letters", "abc", 0.0, NumberState::Malformed},
+                    NumberCase{"nothing", "", 0.0, NumberState::Malformed},
+                    NumberCase{"notANumber", "nan", 0.0, NumberState::Malformed},
+                    NumberCase{"infinity", "inf", 0.0, NumberState::Malformed},
+                    NumberCase{"tooLarge", "1e999", 0.0, NumberState::Malformed}),
+    [](const auto& row) { return row.param.name; });
+
+struct IntegerCase
+{
+    const char* name;
+    const char* text;
+    std::int64_t value;
+    NumberState state;
+};
+
+class IntegerFrom : public testing::TestWithParam<IntegerCase>
+{
+};
+
+TEST_P(IntegerFrom, Text)
+{
+    std::int64_t value = -1;
+    EXPECT_EQ(parseInteger(GetParam().text, value), GetParam().state);
+    EXPECT_EQ(value, GetParam().value);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Numbers, IntegerFrom,
+    testing::Values(IntegerCase{"padded", "     6", 6, NumberState::Good},
+                    IntegerCase{"negative", "-3", -3, NumberState::Good},
+                    IntegerCase{"plusSign", "+3", 3, NumberState::Good},
+                    IntegerCase{"writtenAsReal", "5.0", 5, NumberState::Good},
+                    IntegerCase{"lettersBehind", "12 red", 12, NumberState::Malformed},
+                    IntegerCase{"letters", "red", 0, NumberState::Malformed},
+                    IntegerCase{"tooLarge", "99999999999999999999", 0, NumberState::Malformed}),
+    [](const auto& row) { return row.param.name; });
+
+TEST(ParseHandle, ReadsHexadecimalDigitsAlone)
+{
+    std::uint64_t handle = 7;
+    EXPECT_TRUE(parseHandle(" 1aF ", handle));
+    EXPECT_EQ(handle, 0x1AFu);
+    EXPECT_FALSE(parseHandle("12G", handle));
+    EXPECT_EQ(handle, 0u);
+    EXPECT_FALSE(parseHandle("", handle));
+}
+
+} // namespace

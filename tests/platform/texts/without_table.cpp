@@ -1,0 +1,6 @@
+extern "C" int somethingElse();
+
+extern "C" int somethingElse()
+{
+    return 1;
+}

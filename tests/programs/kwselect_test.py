@@ -1,0 +1,243 @@
+#!/usr/bin/env python3
+"""Runs kwselect as a person does and looks at its output, messages and exit status."""
+
+import argparse
+import json
+import os
+import subprocess
+import sys
+import tempfile
+import unittest
+from pathlib import Path
+
+SELECTED, NOTHING, CANNOT_WORK, IN_PART = 0, 1, 2, 3
+GENERAL = ["Color", "Layer", "Linetype", "Linetype scale", "Plot style", "Lineweight",
+           "Transparency", "Hyperlink"]
+PROGRAM = ""
+DRAWINGS = Path()
+
+
+class Run:
+    def __init__(self, *arguments, environment=None):
+        done = subprocess.run([PROGRAM, *map(str, arguments)], capture_output=True, timeout=120,
+                              env={**os.environ, **(environment or {})}, check=False)
+        self.status = done.returncode
+        self.lines = done.stdout.decode().splitlines()
+        self.errors = done.stderr.decode()
+
+
+def raw_entities(drawing):
+    """Kind, handle, layer and colour of the entities in the ENTITIES section, read by eye, so to say."""
+    lines = drawing.read_text().splitlines()
+    pairs = list(zip((int(code) for code in lines[0::2]), lines[1::2]))
+    start = next(i for i, pair in enumerate(pairs) if pair == (2, "ENTITIES")) + 1
+    entities = []
+    for code, value in pairs[start:]:
+        if (code, value) == (0, "ENDSEC"):
+            break
+        if code == 0:
+            entities.append({"kind": value, "sheet": False, "layer": "0", "color": "256"})
+        elif entities and code in (5, 8, 62) and value:
+            entities[-1].setdefault({5: "handle", 8: "layer", 62: "color"}[code], value)
+            if code in (8, 62):
+                entities[-1][{8: "layer", 62: "color"}[code]] = value
+        elif entities and code == 67 and value.strip() == "1":
+            entities[-1]["sheet"] = True
+    return [e for e in entities if not e["sheet"]]
+
+
+class Selecting(unittest.TestCase):
+    plan = property(lambda self: DRAWINGS / "floor_plan.dxf")
+
+    def expected(self, kind=None, **wanted):
+        return [e["handle"] for e in raw_entities(self.plan)
+                if (kind is None or e["kind"] == kind) and all(e[k] == v for k, v in wanted.items())]
+
+    def test_prints_the_handles_of_the_matches_in_the_order_of_the_drawing(self):
+        run = Run(self.plan, "--type", "Circle", "--property", "Layer", "--operator", "=",
+                  "--value", "PIPES-HOT")
+        self.assertEqual(run.lines, self.expected("CIRCLE", layer="PIPES-HOT"))
+        self.assertEqual(run.status, SELECTED)
+
+    def test_tells_the_count_on_standard_error(self):
+        expected = self.expected("CIRCLE", layer="PIPES-HOT")
+        run = Run(self.plan, "--type", "Circle", "--property", "Layer", "--value", "PIPES-HOT")
+        self.assertEqual(run.errors, f"{len(expected)} item(s) selected.\n")
+
+    def test_a_type_alone_selects_all_of_its_entities(self):
+        run = Run(self.plan, "--type", "line")
+        self.assertEqual(run.lines, self.expected("LINE"))
+
+    def test_names_match_without_case_and_with_their_category(self):
+        plain = Run(self.plan, "-t", "Line", "-p", "Layer", "-v", "WALLS")
+        spelled = Run(self.plan, "-t", "LINE", "-p", "general:layer", "-v", "walls")
+        self.assertEqual(spelled.lines, plain.lines)
+        self.assertEqual(plain.lines, self.expected("LINE", layer="WALLS"))
+
+    def test_without_a_type_all_types_are_searched(self):
+        run = Run(self.plan, "--property", "Layer", "--value", "WALLS")
+        self.assertEqual(run.lines, self.expected(layer="WALLS"))
+
+    def test_exclude_selects_the_rest_but_nothing_on_frozen_layers(self):
+        circles = self.expected("CIRCLE")
+        run = Run(self.plan, "--type", "Circle", "--exclude")
+        others = [e["handle"] for e in raw_entities(self.plan)
+                  if e["handle"] not in circles and e["layer"] != "FURNITURE-OLD"
+                  and e["kind"] not in ("ATTRIB", "SEQEND", "VERTEX")]
+        self.assertEqual(run.lines, others)
+
+    def test_nothing_found_is_exit_status_1(self):
+        run = Run(self.plan, "--property", "Layer", "--value", "NO-SUCH-LAYER")
+        self.assertEqual((run.status, run.lines), (NOTHING, []))
+        self.assertEqual(run.errors, "0 item(s) selected.\n")
+
+    def test_a_number_is_compared_by_size(self):
+        drawing = DRAWINGS / "all_basic_kinds_r2010.dxf"
+        scales = {json.loads(line)["handle"]: value_of(json.loads(line), "Linetype scale")
+                  for line in Run(drawing, "--dump").lines}
+        run = Run(drawing, "--property", "Linetype scale", "--operator", "<", "--value", "1")
+        self.assertEqual(run.lines, [h for h, scale in scales.items() if scale < 1])
+        self.assertTrue(run.lines)
+
+    def test_a_colour_is_found_by_name(self):
+        drawing = DRAWINGS / "all_basic_kinds_r2010.dxf"
+        red = [e["handle"] for e in raw_entities(drawing) if e["color"].strip() == "1"]
+        self.assertEqual(Run(drawing, "-p", "Color", "-v", "red").lines, red)
+        self.assertTrue(red)
+
+    def test_texts_match_wildcards(self):
+        drawing = DRAWINGS / "all_basic_kinds_r2010.dxf"
+        run = Run(drawing, "-p", "Hyperlink", "-o", "*", "-v", "*example.org*")
+        self.assertEqual(len(run.lines), 1)
+
+
+def value_of(entity, name):
+    return next(p["value"] for p in entity["properties"] if p["key"].split(":", 1)[1] == name)
+
+
+class Listing(unittest.TestCase):
+    plan = property(lambda self: DRAWINGS / "floor_plan.dxf")
+
+    def test_types_come_with_their_number_and_class(self):
+        lines = [line.split("\t") for line in Run(self.plan, "--list", "types").lines]
+        circles = [e for e in raw_entities(self.plan) if e["kind"] == "CIRCLE"]
+        self.assertIn(["Circle", str(len(circles)), "AcDbCircle"], lines)
+        self.assertIn("Block Reference", [line[0] for line in lines])
+
+    def test_properties_begin_with_the_general_ones_in_their_order(self):
+        lines = Run(self.plan, "--list", "properties", "--type", "Circle").lines
+        self.assertEqual([line.split("\t")[0] for line in lines[:8]], GENERAL)
+        self.assertEqual(lines[0], "Color\tGeneral\t= <> > < all")
+
+    def test_values_come_with_the_number_of_entities_that_have_them(self):
+        lines = Run(self.plan, "--list", "values", "--type", "Circle", "--property", "Layer").lines
+        counts = {}
+        for entity in raw_entities(self.plan):
+            if entity["kind"] == "CIRCLE":
+                counts[entity["layer"]] = counts.get(entity["layer"], 0) + 1
+        self.assertEqual(dict(line.split("\t") for line in lines),
+                         {layer: str(count) for layer, count in counts.items()})
+
+    def test_values_without_a_property_are_refused(self):
+        run = Run(self.plan, "--list", "values")
+        self.assertEqual(run.status, CANNOT_WORK)
+        self.assertIn("--property", run.errors)
+
+    def test_dump_has_one_json_object_for_each_entity(self):
+        entities = [json.loads(line) for line in Run(self.plan, "--dump").lines]
+        raw = [e for e in raw_entities(self.plan) if e["kind"] not in ("ATTRIB", "SEQEND", "VERTEX")]
+        self.assertEqual([e["handle"] for e in entities], [e["handle"] for e in raw])
+        self.assertEqual([value_of(e, "Layer") for e in entities], [e["layer"] for e in raw])
+        first = entities[0]
+        self.assertEqual(list(first), ["handle", "className", "displayName", "properties"])
+        self.assertEqual(first["properties"][0]["key"], "\tGeneral:Color")
+        self.assertEqual(first["properties"][0]["restype"], 5011)
+
+
+class Refusing(unittest.TestCase):
+    plan = property(lambda self: DRAWINGS / "floor_plan.dxf")
+
+    def refused(self, *arguments):
+        run = Run(*arguments)
+        self.assertEqual(run.status, CANNOT_WORK, run.errors)
+        self.assertEqual(run.lines, [])
+        return run.errors
+
+    def test_a_wrong_type_names_the_nearest(self):
+        message = self.refused(self.plan, "--type", "Circel")
+        self.assertIn('no object type "Circel"; did you mean "Circle"?', message)
+
+    def test_a_wrong_property_names_the_nearest(self):
+        message = self.refused(self.plan, "--property", "Layr", "--value", "X")
+        self.assertIn('no property "Layr"; did you mean "Layer"?', message)
+
+    def test_a_wrong_operator_names_the_right_ones(self):
+        message = self.refused(self.plan, "--property", "Layer", "--operator", ">", "--value", "X")
+        self.assertIn("There are: =, <>, all", message)
+
+    def test_a_value_that_is_none_is_refused(self):
+        self.assertIn('"orange" is no value', self.refused(self.plan, "-p", "Color", "-v", "orange"))
+        message = self.refused(self.plan, "-p", "Linetype scale", "-v", "wide")
+        self.assertIn('"wide" is no value', message)
+
+    def test_an_operator_needs_a_value(self):
+        self.assertIn("needs --value", self.refused(self.plan, "-p", "Layer", "-o", "="))
+
+    def test_a_value_needs_a_property(self):
+        self.assertIn("needs --property", self.refused(self.plan, "--value", "1"))
+
+    def test_a_wrong_option_is_named(self):
+        self.assertIn("--bogus", self.refused(self.plan, "--bogus"))
+        self.assertIn("DRAWING", self.refused("--dump"))
+
+    def test_a_missing_file_is_one_line(self):
+        message = self.refused("no_such.dxf", "--dump")
+        self.assertIn("no_such.dxf", message)
+        self.assertEqual(message.count("\n"), 1)
+
+    def test_a_file_that_is_no_drawing_is_one_line(self):
+        with tempfile.TemporaryDirectory() as folder:
+            for name, content in {"text.dxf": b"hello\nworld\n", "empty.dxf": b"",
+                                  "drawing.dwg": b"AC1027\0\0\0\0\0" + bytes(200)}.items():
+                path = Path(folder) / name
+                path.write_bytes(content)
+                with self.subTest(name):
+                    message = self.refused(path, "--dump")
+                    self.assertIn(name, message)
+                    self.assertEqual(message.count("\n"), 1)
+
+    def test_a_drawing_that_breaks_off_is_read_in_part_and_says_so(self):
+        with tempfile.TemporaryDirectory() as folder:
+            cut = Path(folder) / "cut.dxf"
+            whole = self.plan.read_bytes()
+            cut.write_bytes(whole[:whole.index(b"ENTITIES") + 3000])
+            run = Run(cut, "--list", "types")
+        self.assertEqual(run.status, IN_PART)
+        self.assertTrue(run.lines)
+        self.assertIn("read only in part", run.errors)
+
+    def test_a_missing_module_is_one_line(self):
+        run = Run(self.plan, "--dump", environment={"KW_MODULE": "/nowhere/module.so"})
+        self.assertEqual(run.status, CANNOT_WORK)
+        self.assertIn("module can't be loaded", run.errors)
+        self.assertEqual(run.errors.count("\n"), 1)
+
+    def test_output_that_can_not_be_written_is_told(self):
+        with open("/dev/full", "wb") as full:
+            done = subprocess.run([PROGRAM, str(self.plan), "--dump"], stdout=full,
+                                  stderr=subprocess.PIPE, check=False)
+        self.assertEqual(done.returncode, CANNOT_WORK)
+        self.assertIn(b"can't be written", done.stderr)
+
+    def test_help_and_version_end_well(self):
+        self.assertIn("Examples:", "\n".join(Run("--help").lines))
+        self.assertRegex(Run("--version").lines[0], r"^kwselect \d+\.\d+\.\d+$")
+
+
+if __name__ == "__main__":
+    parser = argparse.ArgumentParser()
+    parser.add_argument("--program", required=True)
+    parser.add_argument("--drawings", type=Path, required=True)
+    options, rest = parser.parse_known_args()
+    PROGRAM, DRAWINGS = options.program, options.drawings
+    unittest.main(argv=[sys.argv[0], *rest])
