@@ -1,30 +1,15 @@
 #include "lookup.h"
 
 #include <algorithm>
-#include <numeric>
 #include <utility>
 
 #include <runtime/utf8.h>
 
+#include "nearest_name.h"
+
 namespace {
 
 constexpr const wchar_t* kAxes[] = {L" X", L" Y", L" Z"};
-
-/// How many characters are to be added, dropped or changed to make one text of the other.
-std::size_t editDistance(const std::wstring& a, const std::wstring& b)
-{
-    std::vector<std::size_t> row(b.size() + 1);
-    std::iota(row.begin(), row.end(), std::size_t{0});
-    for (std::size_t i = 1; i <= a.size(); ++i) {
-        std::size_t diagonal = std::exchange(row[0], i);
-        for (std::size_t j = 1; j <= b.size(); ++j) {
-            const std::size_t changed = diagonal + (a[i - 1] == b[j - 1] ? 0 : 1);
-            diagonal = row[j];
-            row[j] = std::min({row[j] + 1, row[j - 1] + 1, changed});
-        }
-    }
-    return row.back();
-}
 
 std::string quoted(const std::wstring& text)
 {
@@ -46,15 +31,8 @@ std::string notFound(const std::string& what, const std::string& name,
     std::string sentence = "no " + what + " \"" + name + '"';
     if (known.empty())
         return sentence + "; the drawing holds none";
-    const std::wstring wanted = comparable(kdFromUtf8(name));
-    const auto nearest =
-        std::min_element(known.begin(), known.end(), [&](const auto& a, const auto& b) {
-            return editDistance(comparable(a), wanted) < editDistance(comparable(b), wanted);
-        });
-    if (editDistance(comparable(*nearest), wanted) <= wanted.size() / 2)
-        sentence += "; did you mean " + quoted(*nearest) + '?';
-    else
-        sentence += ';';
+    const std::wstring* nearest = nearestName(kdFromUtf8(name), known);
+    sentence += nearest ? "; did you mean " + quoted(*nearest) + '?' : ";";
     return sentence + " There are: " + joined(known);
 }
 

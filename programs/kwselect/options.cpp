@@ -1,10 +1,16 @@
 #include "options.h"
 
+#include <algorithm>
 #include <iostream>
+#include <string_view>
+#include <vector>
 
 #include <CLI/CLI.hpp>
 
+#include <runtime/utf8.h>
+
 #include "exit_status.h"
+#include "nearest_name.h"
 
 namespace {
 
@@ -12,7 +18,7 @@ constexpr const char* kDescription =
     R"(Selects the entities of a drawing whose property passes a test and prints their handles.
 
 Examples:
-  kwselect plan.dxf --type Circle --property "Linetype scale" --operator ">" --value 1
+  kwselect plan.dxf --type Circle --property Radius --operator ">" --value 5
   kwselect plan.dxf --type Line --property Layer --value WALLS --exclude
   kwselect plan.dxf --property Color --value red
   kwselect plan.dxf --list types
@@ -43,6 +49,25 @@ void declare(CLI::App& app, Options& options)
         ->excludes(list);
 }
 
+/// The option that an unknown one may have been meant to be, as a question.
+std::string guess(const CLI::App& app, int argc, char** argv)
+{
+    std::vector<std::wstring> known;
+    for (const CLI::Option* option : app.get_options()) {
+        for (const std::string& name : option->get_lnames())
+            known.push_back(kdFromUtf8("--" + name));
+    }
+    for (int i = 1; i < argc; ++i) {
+        const std::string_view argument = argv[i];
+        const std::wstring word = kdFromUtf8(argument.substr(0, argument.find('=')));
+        const bool isKnown = std::find(known.begin(), known.end(), word) != known.end();
+        const std::wstring* nearest = nearestName(word, known);
+        if (word.starts_with(L"--") && !isKnown && nearest)
+            return "; did you mean " + kdToUtf8(*nearest) + '?';
+    }
+    return {};
+}
+
 } // namespace
 
 std::optional<int> readOptions(int argc, char** argv, Options& options)
@@ -55,7 +80,8 @@ std::optional<int> readOptions(int argc, char** argv, Options& options)
         const bool isHelp = error.get_exit_code() == 0;
         if (isHelp)
             return app.exit(error);
-        std::cerr << "kwselect: " << error.what() << "\nTry: kwselect --help\n";
+        std::cerr << "kwselect: " << error.what() << guess(app, argc, argv)
+                  << "\nTry: kwselect --help\n";
         return kCannotWork;
     }
     return std::nullopt;

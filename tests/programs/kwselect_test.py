@@ -188,6 +188,7 @@ class Refusing(unittest.TestCase):
 
     def test_a_wrong_option_is_named(self):
         self.assertIn("--bogus", self.refused(self.plan, "--bogus"))
+        self.assertIn("did you mean --property?", self.refused(self.plan, "--proprety", "Layer"))
         self.assertIn("DRAWING", self.refused("--dump"))
 
     def test_a_missing_file_is_one_line(self):

@@ -1,0 +1,43 @@
+#include "nearest_name.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <numeric>
+#include <utility>
+
+#include <common/catalog.h>
+
+namespace {
+
+/// How many characters are to be added, dropped or changed to make one text of the other.
+std::size_t editDistance(const std::wstring& a, const std::wstring& b)
+{
+    std::vector<std::size_t> row(b.size() + 1);
+    std::iota(row.begin(), row.end(), std::size_t{0});
+    for (std::size_t i = 1; i <= a.size(); ++i) {
+        std::size_t diagonal = std::exchange(row[0], i);
+        for (std::size_t j = 1; j <= b.size(); ++j) {
+            const std::size_t changed = diagonal + (a[i - 1] == b[j - 1] ? 0 : 1);
+            diagonal = row[j];
+            row[j] = std::min({row[j] + 1, row[j - 1] + 1, changed});
+        }
+    }
+    return row.back();
+}
+
+} // namespace
+
+const std::wstring* nearestName(const std::wstring& wanted, const std::vector<std::wstring>& known)
+{
+    const std::wstring form = comparable(wanted);
+    const std::wstring* nearest = nullptr;
+    std::size_t fewest = form.size() / 2 + 1;
+    for (const std::wstring& name : known) {
+        const std::size_t changes = editDistance(comparable(name), form);
+        if (changes < fewest) {
+            nearest = &name;
+            fewest = changes;
+        }
+    }
+    return nearest;
+}
