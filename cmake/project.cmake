@@ -40,6 +40,9 @@ if(KW_SANITIZE)
 endif()
 
 if(KW_BUILD_FUZZERS)
+  if(NOT CMAKE_CXX_COMPILER_ID MATCHES "Clang")
+    message(FATAL_ERROR "The fuzz targets need clang: configure with -DCMAKE_CXX_COMPILER=clang++")
+  endif()
   add_compile_options(-fsanitize=fuzzer-no-link)
 endif()
 

@@ -159,7 +159,7 @@ namespace {{
 constexpr wchar_t kCharacters[] =
 {characters};
 
-constexpr ResourceText kSlots[] = {{
+constexpr ResourceSlot kSlots[] = {{
 {rows}
 }};
 

@@ -13,39 +13,41 @@ constexpr int kPolyFaceMesh = 64;
 constexpr int kMeshCorner = 64;
 constexpr int kDimensionKind = 15;
 
-const wchar_t* polylineClass(const ClassHints& hints)
+const KdRxClass* polylineClass(const ClassHints& hints)
 {
     if (hints.flags & kPolyFaceMesh)
-        return L"AcDbPolyFaceMesh";
+        return KdDbPolyFaceMesh::desc();
     if (hints.flags & kPolygonMesh)
-        return L"AcDbPolygonMesh";
-    return hints.flags & kPolyline3d ? L"AcDb3dPolyline" : L"AcDb2dPolyline";
+        return KdDbPolygonMesh::desc();
+    return hints.flags & kPolyline3d ? KdDb3dPolyline::desc() : KdDb2dPolyline::desc();
 }
 
-const wchar_t* vertexClass(const ClassHints& hints)
+const KdRxClass* vertexClass(const ClassHints& hints)
 {
     if (hints.parent == KdDbPolyFaceMesh::desc())
-        return hints.flags & kMeshCorner ? L"AcDbPolyFaceMeshVertex" : L"AcDbFaceRecord";
+        return hints.flags & kMeshCorner ? KdDbPolyFaceMeshVertex::desc() : KdDbFaceRecord::desc();
     if (hints.parent == KdDbPolygonMesh::desc())
-        return L"AcDbPolygonMeshVertex";
-    return hints.parent == KdDb3dPolyline::desc() ? L"AcDb3dPolylineVertex" : L"AcDb2dVertex";
+        return KdDbPolygonMeshVertex::desc();
+    return hints.parent == KdDb3dPolyline::desc() ? KdDb3dPolylineVertex::desc()
+                                                  : KdDb2dVertex::desc();
 }
 
-const wchar_t* dimensionClass(const ClassHints& hints)
+const KdRxClass* dimensionClass(const ClassHints& hints)
 {
-    constexpr const wchar_t* kByKind[] = {
-        L"AcDbRotatedDimension",   L"AcDbAlignedDimension", L"AcDb2LineAngularDimension",
-        L"AcDbDiametricDimension", L"AcDbRadialDimension",  L"AcDb3PointAngularDimension",
-        L"AcDbOrdinateDimension",
+    static const KdRxClass* const kByKind[] = {
+        KdDbRotatedDimension::desc(),      KdDbAlignedDimension::desc(),
+        KdDb2LineAngularDimension::desc(), KdDbDiametricDimension::desc(),
+        KdDbRadialDimension::desc(),       KdDb3PointAngularDimension::desc(),
+        KdDbOrdinateDimension::desc(),
     };
     const auto kind = static_cast<std::size_t>(hints.flags & kDimensionKind);
     return kByKind[kind < std::size(kByKind) ? kind : 0];
 }
 
-const wchar_t* insertClass(const ClassHints& hints)
+const KdRxClass* insertClass(const ClassHints& hints)
 {
     const bool isGrid = hints.flags > 1 || hints.count > 1;
-    return isGrid ? L"AcDbMInsertBlock" : L"AcDbBlockReference";
+    return isGrid ? KdDbMInsertBlock::desc() : KdDbBlockReference::desc();
 }
 
 struct DecisionRow
@@ -97,7 +99,7 @@ const KdRxClass* ClassEntry::decide(const ClassHints& hints) const
 {
     if (!isAmbiguous())
         return m_classes.front().rxClass;
-    const KdRxClass* decided = m_decide ? kdrxFindKdRxClass(m_decide(hints)) : nullptr;
+    const KdRxClass* decided = m_decide ? m_decide(hints) : nullptr;
     // A grid of block references is often marked as a single one.
     const bool isGrid = decided == KdDbMInsertBlock::desc();
     if (hints.marked && !isGrid)

@@ -27,7 +27,7 @@ struct ClassHints
 class ClassEntry
 {
   public:
-    using Decide = const wchar_t* (*)(const ClassHints&);
+    using Decide = const KdRxClass* (*)(const ClassHints&);
 
     explicit ClassEntry(const KdRxClass* rxClass) : m_classes{{"", rxClass}} {}
 

@@ -1,5 +1,7 @@
 #include <exchange/drawing_reader.h>
 
+#include <new>
+
 #include "index_pass.h"
 #include "member_source.h"
 
@@ -28,13 +30,9 @@ KdErrorStatus cancelled(ReadReport& report)
     return eUserBreak;
 }
 
-} // namespace
-
-KdErrorStatus readDrawing(const std::filesystem::path& file,
-                          std::unique_ptr<KdDbDatabase>& database, ReadReport& report,
-                          const ReadOptions& options)
+KdErrorStatus read(const std::filesystem::path& file, std::unique_ptr<KdDbDatabase>& database,
+                   ReadReport& report, const ReadOptions& options)
 {
-    report = {};
     auto result = std::make_unique<KdDbDatabase>(KdDbDatabase::Content::Bare);
     auto owned = std::make_unique<dxf::DrawingSource>(*result);
     dxf::DrawingSource& source = *owned;
@@ -62,4 +60,20 @@ KdErrorStatus readDrawing(const std::filesystem::path& file,
     report.totalFindings = source.findings.total();
     database = std::move(result);
     return eOk;
+}
+
+} // namespace
+
+KdErrorStatus readDrawing(const std::filesystem::path& file,
+                          std::unique_ptr<KdDbDatabase>& database, ReadReport& report,
+                          const ReadOptions& options)
+{
+    report = {};
+    try {
+        return read(file, database, report, options);
+    } catch (const std::bad_alloc&) {
+        report = {};
+        report.error = L"The file is too large for the memory.";
+        return eFileAccessError;
+    }
 }

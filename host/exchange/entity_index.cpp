@@ -127,8 +127,7 @@ bool EntityIndex::belongsToParent(const KdRxClass* rxClass) const
 void EntityIndex::noteUnknown(std::string_view name, std::uint64_t offset)
 {
     ++m_report.unknownEntities;
-    m_source.findings.add(DrawingFinding::UnknownEntity, offset,
-                          std::wstring(name.begin(), name.end()));
+    m_source.findings.add(DrawingFinding::UnknownEntity, offset, m_source.decoder.decode(name));
 }
 
 void EntityIndex::readEntity(RecordCursor& cursor)

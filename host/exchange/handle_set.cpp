@@ -9,7 +9,8 @@ HandleSet::Place& HandleSet::find(std::uint64_t key)
         return last;
     const std::size_t mask = m_places.size() - 1;
     constexpr std::uint64_t kGoldenRatio = 0x9E3779B97F4A7C15u;
-    std::size_t index = static_cast<std::size_t>(key * kGoldenRatio >> 20) & mask;
+    // The upper bits of the product depend on all bits of the key.
+    std::size_t index = static_cast<std::size_t>(key * kGoldenRatio >> 32) & mask;
     while (m_places[index].bits != 0 && m_places[index].key != key)
         index = (index + 1) & mask;
     m_last = index;

@@ -90,7 +90,7 @@ void store(const Variable& variable, DrawingSource& source)
     const std::string_view name = trimmed(variable.name.text);
     if (variable.values.empty() || !name.starts_with('$'))
         return;
-    const int index = KdDbHeaderVariables::indexOf(std::wstring(name.begin() + 1, name.end()));
+    const int index = KdDbHeaderVariables::indexOf(source.decoder.decode(name.substr(1)));
     if (index < 0)
         return;
     KdDbHeaderVariables& header = source.database.header();
@@ -100,7 +100,7 @@ void store(const Variable& variable, DrawingSource& source)
         header.setValue(index, std::move(value));
     else
         source.findings.add(DrawingFinding::BadHeaderVariable, variable.name.offset,
-                            std::wstring(name.begin(), name.end()));
+                            source.decoder.decode(name));
 }
 
 /// The number in a version's name. The oldest versions have names of another form.
@@ -135,7 +135,7 @@ void chooseEncoding(DrawingSource& source, std::string_view codePage, std::uint6
     }
     if (!codePage.empty() && !source.decoder.useCodePage(codePage))
         source.findings.add(DrawingFinding::UnknownCodePage, offset,
-                            std::wstring(codePage.begin(), codePage.end()));
+                            source.decoder.decode(codePage));
     if (holdsUtf8(source)) {
         source.findings.add(DrawingFinding::CodePageIsWrong, offset);
         source.decoder.useUtf8();
@@ -148,7 +148,7 @@ void readHeader(RecordCursor& cursor, DrawingSource& source, KdString& version)
     const std::string_view stated = textOf(find(variables, "$ACADVER"));
     const Variable* codePage = find(variables, "$DWGCODEPAGE");
     if (!stated.empty()) {
-        version = KdString(std::wstring(stated.begin(), stated.end()));
+        version = source.decoder.decode(stated);
         source.version = numberOfVersion(stated);
     }
     chooseEncoding(source, textOf(codePage), codePage ? codePage->name.offset : cursor.offset());

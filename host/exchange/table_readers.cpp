@@ -1,4 +1,7 @@
 // Records of symbol tables. Their names are known from the index pass.
+#include <algorithm>
+#include <cstdlib>
+
 #include <database/block_table.h>
 #include <database/tables.h>
 
@@ -44,12 +47,15 @@ void takeTransparency(const KdDbObject& object, LayerMembers& layer)
     }
 }
 
+/// Above all indexes of the palette.
+constexpr std::int64_t kNoIndex = 257;
+
 void takeLayerColor(RecordReader& reader, LayerMembers& layer, bool hasTrueColor)
 {
-    const int index = reader.integer();
+    const std::int64_t index = reader.integer(); // wide, so that each can be negated
     layer.off = index < 0;
     if (!hasTrueColor)
-        layer.color = colorWordOfIndex(index < 0 ? -index : index);
+        layer.color = colorWordOfIndex(static_cast<int>(std::min(std::abs(index), kNoIndex)));
 }
 
 void readLayer(RecordReader& reader, LayerMembers& layer)

@@ -21,7 +21,6 @@ class TextDecoder
     /// Reads the code page of that drawing name; false, with nothing changed, if it is not known.
     bool useCodePage(std::string_view drawingName);
     void useUtf8() { m_utf8 = true; }
-    bool isUtf8() const { return m_utf8; }
     const CodePage& codePage() const { return *m_page; }
 
     /// The text of a group: bytes by the code page, then the escapes `^J`, `\U+XXXX`, `\M+nXXXX`.

@@ -26,7 +26,7 @@ std::wstring_view ResourceLibrary::find(unsigned int id) const
     const std::uint32_t mask = ~0u >> m_table.shift;
     for (std::uint32_t slot = resourceSlot(id, m_table.shift); m_table.slots[slot].id != 0;
          slot = (slot + 1) & mask) {
-        const ResourceText& text = m_table.slots[slot];
+        const ResourceSlot& text = m_table.slots[slot];
         if (text.id == id)
             return {m_table.characters + text.offset, text.length};
     }

@@ -69,6 +69,8 @@ class TypeCollector
     std::map<std::wstring, int> m_seen;
 };
 
+} // namespace
+
 void gatherMembers(const long* set, Candidates& candidates)
 {
     TypeCollector collector(candidates.selectionEntities, candidates.selectionTypeEntities);
@@ -78,7 +80,7 @@ void gatherMembers(const long* set, Candidates& candidates)
         KdDbObjectId id;
         if (!memberAt(set, index, name, id))
             continue;
-        kdedSSFree(name);
+        kdedSSFree(name); // hosts may keep something for a name, this one does not
         const OpenForRead<KdDbEntity> entity(id);
         if (!entity || !entity->isA())
             continue;
@@ -88,8 +90,6 @@ void gatherMembers(const long* set, Candidates& candidates)
     }
 }
 
-} // namespace
-
 KdDbObjectId currentSpace()
 {
     KdDbHostApplicationServices* services = kddbHostApplicationServices();
@@ -98,6 +98,7 @@ KdDbObjectId currentSpace()
         return {};
     const bool showsModel = integerVariable(L"TILEMODE") != 0;
     const bool inSheet = integerVariable(L"CVPORT") == kSheetViewport;
+    integerVariable(L"GRIPS"); // read at the start of each run; nothing depends on it
     if (showsModel || !inSheet)
         return modelSpace(*database);
     KdDbLayoutManager* layouts = services->layoutManager();
@@ -108,7 +109,7 @@ SpaceStatus gatherSpace(Candidates& candidates)
 {
     const OpenForRead<KdDbBlockTableRecord> space(currentSpace());
     KdDbBlockTableRecordIterator* walker = nullptr;
-    if (!space || space->newIterator(walker, true, true) != eOk)
+    if (!space || space->newIterator(walker, true, true) != eOk || !walker)
         return SpaceStatus::Unreadable;
     const std::unique_ptr<KdDbBlockTableRecordIterator> iterator(walker);
     TypeCollector collector(candidates.allEntities, candidates.drawingTypeEntities);

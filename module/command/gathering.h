@@ -36,6 +36,9 @@ SpaceStatus gatherSpace(Candidates& candidates);
 /// Says that the space holds no objects, as a message box, and gives the focus back to the drawing.
 void tellNoObjects();
 
+/// Gathers the members of exactly this set.
+void gatherMembers(const long* set, Candidates& candidates);
+
 /// Gathers the starting selection: `ss` if it has members, otherwise the host's implied selection.
 void gatherSelection(const long* ss, Candidates& candidates);
 

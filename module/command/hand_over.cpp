@@ -9,9 +9,6 @@
 
 namespace {
 
-// How the host is to take the selection.
-constexpr int kSelectionFromCommand = 2;
-
 /// Of the implied selection, read anew: what can't be opened, and what is of the chosen class. The
 /// display name plays no part here.
 HostSet baseOfImplied(const DialogParameters& parameters)
@@ -52,7 +49,7 @@ HostSet mergeWithStart(const long* given, const HostSet& result)
 void setSelection(const HostSet& set)
 {
     kdedUpdateDisplay();
-    kdedSSSetFirstInternal(set.name(), nullptr, kSelectionFromCommand);
+    kdedSSSetFirstInternal(set.name(), nullptr, kKdedIsCommandOutcome);
 }
 
 void setEmptySelection(const HostSet& set)

@@ -7,8 +7,8 @@
 
 namespace {
 
-// What the host is told when it gathers the base of an exclusion.
-constexpr int kCurrentSpaceOnly = 768;
+// What a person could have selected in the current space.
+constexpr int kSelectableInSpace = kKdedCurrentSpaceOnly | kKdedPickableOnly;
 
 } // namespace
 
@@ -24,7 +24,7 @@ HostSet HostSet::implied()
 HostSet HostSet::currentSpace()
 {
     HostSet set{Unmade{}};
-    set.m_status = kdedSSGetImpl(L"X", nullptr, nullptr, nullptr, set.m_name, kCurrentSpaceOnly);
+    set.m_status = kdedSSGetImpl(L"X", nullptr, nullptr, nullptr, set.m_name, kSelectableInSpace);
     // The host makes no set where it has nothing to offer; an outcome needs one all the same.
     return set.m_status == RTNORM ? std::move(set) : HostSet();
 }

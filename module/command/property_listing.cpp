@@ -1,6 +1,7 @@
 #include <command/property_listing.h>
 
-#include <unordered_map>
+#include <map>
+#include <utility>
 #include <vector>
 
 #include <command/gathering.h>
@@ -68,7 +69,7 @@ Candidates gather(const long* ss)
 {
     Candidates candidates;
     if (ss)
-        gatherSelection(ss, candidates);
+        gatherMembers(ss, candidates);
     else
         gatherSpace(candidates);
     return candidates;
@@ -107,13 +108,14 @@ void listTypes(const long* ss, quick_select::TypeVisitor visitor, void* context)
     const Candidates candidates = gather(ss);
     const auto& examples = ss ? candidates.selectionTypeEntities : candidates.drawingTypeEntities;
     DisplayNames names;
-    std::unordered_map<std::wstring, std::size_t> counts;
+    std::map<std::pair<std::wstring, const KdRxClass*>, std::size_t> counts;
     for (const KdDbEntity* entity : allOf(candidates, ss))
-        ++counts[names.of(*entity)];
+        ++counts[{names.of(*entity), entity->isA()}];
     for (const KdDbEntity* example : examples) {
         const std::wstring& name = names.of(*example);
+        const KdRxClass* rxClass = example->isA();
         visitor(context,
-                Type{name.c_str(), example->isA()->name(), example->objectId(), counts[name]});
+                Type{name.c_str(), rxClass->name(), example->objectId(), counts[{name, rxClass}]});
     }
 }
 

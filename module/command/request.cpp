@@ -31,6 +31,8 @@ class GivenFilter : public FilterSource
         m_parameters.propertyParameters.axis = request.axis;
     }
     ~GivenFilter() override { ResBuf::relRb(m_parameters.filter); }
+    GivenFilter(const GivenFilter&) = delete;
+    GivenFilter& operator=(const GivenFilter&) = delete;
 
     void setValue(const FilterValue& value)
     {

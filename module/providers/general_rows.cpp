@@ -135,11 +135,11 @@ std::vector<KdString> plotStyleNames(KdDbDatabase& database)
 {
     std::vector<KdString> names{L"ByLayer", L"ByBlock", L"Normal"};
     KdDbDictionary* dictionary = nullptr;
-    if (database.getPlotStyleNameDictionary(dictionary, KdDb::kForRead) != eOk)
+    if (database.getPlotStyleNameDictionary(dictionary, KdDb::kForRead) != eOk || !dictionary)
         return names;
     std::set<KdString> seen(names.begin(), names.end());
     const std::unique_ptr<KdDbDictionaryIterator> iterator(dictionary->newIterator());
-    for (; !iterator->done(); iterator->next()) {
+    for (; iterator && !iterator->done(); iterator->next()) {
         if (seen.insert(iterator->name()).second)
             names.push_back(iterator->name());
     }

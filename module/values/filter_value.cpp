@@ -1,6 +1,7 @@
 #include <values/filter_value.h>
 
 #include <algorithm>
+#include <cmath>
 #include <cwchar>
 #include <iterator>
 
@@ -32,8 +33,9 @@ FilterValue textRecord(int restype, const KdString& text)
 double readDistance(const KdString& text, FilterText& outcome)
 {
     double distance = 1.0;
-    outcome = stringToDistance(text, kAnyPrecision, distance) == RTNORM ? FilterText::Read
-                                                                        : FilterText::Unreadable;
+    const bool read = stringToDistance(text, kAnyPrecision, distance) == RTNORM;
+    // A quotient of two overlong numbers is none, and would count as equal to everything.
+    outcome = read && std::isfinite(distance) ? FilterText::Read : FilterText::Unreadable;
     return distance;
 }
 
@@ -85,9 +87,11 @@ FilterValue readInteger(int kind, int, const KdString& text)
 
 FilterValue readBool(int kind, int, const KdString& text)
 {
+    const bool isTrue = text.compare(__ResourceString(78056, L"true")) == 0;
+    const bool isWord = isTrue || text.compare(__ResourceString(78057, L"false")) == 0;
     ResBuf* record = ResBuf::newRb(kind);
-    record->setBool(text.compare(__ResourceString(78056, L"true")) == 0);
-    return made(record, kind);
+    record->setBool(isTrue);
+    return made(record, kind, isWord ? FilterText::Read : FilterText::Unreadable);
 }
 
 KdString upper(const wchar_t* text)
@@ -95,16 +99,30 @@ KdString upper(const wchar_t* text)
     return KdString(text).makeUpper();
 }
 
+struct TransparencyWord
+{
+    const wchar_t* stored;
+    int id;
+    const wchar_t* defaultText;
+};
+constexpr TransparencyWord kTransparencyWords[] = {
+    {L"BYLAYER", 76557, L"ByLayer"},
+    {L"BYBLOCK", 76558, L"ByBlock"},
+};
+
 FilterValue readTransparency(int kind, int, const KdString& text)
 {
     const KdString wanted = upper(text.kwszPtr());
     const auto is = [&](const wchar_t* word, int id, const wchar_t* defaultText) {
         return wanted == word || wanted == upper(__ResourceString(id, defaultText));
     };
-    const wchar_t* stored = is(L"BYLAYER", 76557, L"ByLayer")   ? L"BYLAYER"
-                            : is(L"BYBLOCK", 76558, L"ByBlock") ? L"BYBLOCK"
-                                                                : wanted.kwszPtr();
-    return made(ResBuf::newRb(kind, stored), kind);
+    for (const auto& [word, id, defaultText] : kTransparencyWords) {
+        if (is(word, id, defaultText))
+            return made(ResBuf::newRb(kind, word), kind);
+    }
+    const bool isNumber = wanted.view().find_first_not_of(L"0123456789") == wanted.view().npos;
+    return made(ResBuf::newRb(kind, wanted.kwszPtr()), kind,
+                isNumber ? FilterText::Read : FilterText::Unreadable);
 }
 
 FilterValue readName(int kind, int, const KdString& text)

@@ -17,8 +17,9 @@ enum class FilterText
 struct FilterValue
 {
     FilterText text = FilterText::Empty;
-    /// Owned by whoever takes it; null unless `Read`. Reals that can't be read leave a record with
-    /// 1.0 beside `Unreadable`, for callers that go on with it.
+    /// Owned by whoever takes it. Beside `Unreadable` there may be a record as well, for callers
+    /// that go on with it: 1.0 for reals, false for words that are none, the text for a
+    /// transparency.
     ResBuf* record = nullptr;
     /// The kind of the comparison, see `PropertyParameters`.
     int valueType = ResBuf::kNone;

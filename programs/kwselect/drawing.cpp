@@ -1,5 +1,6 @@
 #include "drawing.h"
 
+#include <algorithm>
 #include <iostream>
 
 #include <database/database.h>
@@ -8,14 +9,19 @@
 
 namespace {
 
+/// The first findings, each with its place, and how many more there are.
 void tellDamage(const std::string& file, const ReadReport& report)
 {
-    std::cerr << "kwselect: " << file << ": read only in part";
-    if (!report.findings.empty()) {
-        const ReadFinding& last = report.findings.back();
-        std::cerr << "; line " << last.line << ": " << kdToUtf8(last.sentence);
+    constexpr std::size_t kMostTold = 10;
+    const char* const place = report.binary ? "byte " : "line ";
+    const std::size_t told = std::min(report.findings.size(), kMostTold);
+    std::cerr << "kwselect: " << file << ": read only in part\n";
+    for (std::size_t i = 0; i < told; ++i) {
+        const ReadFinding& finding = report.findings[i];
+        std::cerr << "  " << place << finding.line << ": " << kdToUtf8(finding.sentence) << '\n';
     }
-    std::cerr << '\n';
+    if (report.totalFindings > told)
+        std::cerr << "  and " << report.totalFindings - told << " more\n";
 }
 
 } // namespace

@@ -1,10 +1,7 @@
 #include "dump.h"
 
 #include <iostream>
-#include <map>
 
-#include <database/database.h>
-#include <editor/current_space.h>
 #include <runtime/utf8.h>
 
 #include "handle_text.h"

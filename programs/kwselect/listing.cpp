@@ -56,7 +56,8 @@ struct ValueCount
 void countValues(void* context, const quick_select::Entity& entity)
 {
     auto& count = *static_cast<ValueCount*>(context);
-    if (count.choice.type && count.choice.type->displayName != entity.displayName)
+    if (count.choice.type && (count.choice.type->displayName != entity.displayName ||
+                              count.choice.type->className != entity.className))
         return;
     const int axis = count.choice.property->axis;
     for (const PropertyValue& value :

@@ -1,5 +1,7 @@
+#include <exception>
 #include <iostream>
 
+#include <common/catalog.h>
 #include <common/module.h>
 
 #include "drawing.h"
@@ -11,8 +13,18 @@
 
 namespace {
 
+bool isEmpty(const Module& module, const Options& options)
+{
+    if (!typesInSpace(module).empty())
+        return false;
+    std::cerr << "kwselect: " << options.drawing << ": the current space holds no objects\n";
+    return true;
+}
+
 int work(const Module& module, const Options& options)
 {
+    if (isEmpty(module, options))
+        return kNothingSelected;
     if (!options.list.empty())
         return listCatalog(module, options);
     if (options.dump) {
@@ -22,14 +34,8 @@ int work(const Module& module, const Options& options)
     return selectEntities(module, options);
 }
 
-} // namespace
-
-int main(int argc, char** argv)
+int run(const Options& options)
 {
-    std::ios::sync_with_stdio(false);
-    Options options;
-    if (const auto status = readOptions(argc, argv, options))
-        return *status;
     Drawing drawing;
     if (!drawing.open(options.drawing))
         return kCannotWork;
@@ -45,4 +51,20 @@ int main(int argc, char** argv)
         return kCannotWork;
     }
     return status == kCannotWork || drawing.isComplete() ? status : kReadInPart;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    std::ios::sync_with_stdio(false);
+    Options options;
+    if (const auto status = readOptions(argc, argv, options))
+        return *status;
+    try {
+        return run(options);
+    } catch (const std::exception& problem) { // memory has run out, or the machine is at fault
+        std::cerr << "kwselect: " << problem.what() << '\n';
+        return kCannotWork;
+    }
 }

@@ -33,20 +33,27 @@ void declare(CLI::App& app, Options& options)
 {
     app.set_version_flag("--version", "kwselect " KW_VERSION, "Print the version and exit");
     app.add_option("DRAWING", options.drawing, "The drawing, a DXF file")->required();
-    app.add_option("-t,--type", options.type, "Object type; without it all types are searched");
-    app.add_option(
+    const auto type =
+        app.add_option("-t,--type", options.type, "Object type; without it all types are searched");
+    const auto property = app.add_option(
         "-p,--property", options.property,
-        "Property, by its name (\"Layer\") or its key (\"General:Layer\"); of a point one "
-        "coordinate (\"Start X\")");
-    app.add_option("-o,--operator", options.op,
-                   "One of =, <>, >, <, * (wildcard match) and all (the default without a value)");
-    app.add_option("-v,--value", options.value, "Value to compare with");
-    app.add_flag("--exclude", options.exclude, "Select everything that does not match");
+        "Property, by its name (\"Layer\") or its key (\"General:Layer\"); of a point "
+        "one coordinate (\"Start X\")");
+    const auto op = app.add_option("-o,--operator", options.op,
+                                   "One of =, <>, >, <, * (wildcard match) and all (the default "
+                                   "without a value)");
+    const auto value = app.add_option("-v,--value", options.value, "Value to compare with");
+    const auto exclude =
+        app.add_flag("--exclude", options.exclude, "Select everything that does not match");
     const auto list = app.add_option("--list", options.list, "List what can be asked for and exit")
                           ->check(CLI::IsMember({"types", "properties", "values"}));
-    app.add_flag("--dump", options.dump,
-                 "Print every entity with all its properties, one JSON object a line")
-        ->excludes(list);
+    const auto dump =
+        app.add_flag("--dump", options.dump,
+                     "Print every entity with all its properties, one JSON object a line");
+    for (CLI::Option* other : {type, property, op, value, exclude, list})
+        dump->excludes(other);
+    for (CLI::Option* other : {op, value, exclude})
+        list->excludes(other);
 }
 
 /// The option that an unknown one may have been meant to be, as a question.

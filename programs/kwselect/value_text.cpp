@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include <database/color.h>
+#include <editor/units.h>
 #include <runtime/utf8.h>
 
 namespace {
@@ -29,6 +30,16 @@ std::string numberText(double number)
     char buffer[32];
     const auto end = std::to_chars(buffer, buffer + sizeof buffer, number).ptr;
     return std::string(buffer, end);
+}
+
+/// In the units of the drawing, as angles are typed.
+std::string angleText(double radians)
+{
+    constexpr int kUnitsOfTheDrawing = -1;
+    constexpr int kDecimals = 8;
+    KdString text;
+    kddbAngToS(radians, text, kUnitsOfTheDrawing, kDecimals);
+    return kdToUtf8(text);
 }
 
 Json colorJson(long long word)
@@ -100,6 +111,8 @@ Json valuesJson(const std::vector<PropertyValue>& values)
 
 std::string valueText(const PropertyValue& value)
 {
+    if (value.restype == kAngle)
+        return angleText(value.number);
     const Json json = valueJson(value);
     if (json.is_string())
         return json.get<std::string>();

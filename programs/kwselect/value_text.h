@@ -6,10 +6,12 @@
 #include <common/catalog.h>
 #include <nlohmann/json.hpp>
 
-/// A value as it can be typed again: numbers in their shortest form, coordinates between commas.
+/// A value as it can be typed again: numbers in their shortest form, angles in the units of the
+/// drawing, coordinates between commas.
 std::string valueText(const PropertyValue& value);
 
-/// Numbers as numbers, points as arrays, colours as they are typed, all else as text.
+/// Numbers as numbers, angles in radians, points as arrays, colours as they are typed, all else as
+/// text.
 nlohmann::ordered_json valueJson(const PropertyValue& value);
 /// One value as itself, several as an array, none as null.
 nlohmann::ordered_json valuesJson(const std::vector<PropertyValue>& values);

@@ -120,6 +120,14 @@ TEST_F(Listing, OfTypesCanBeThatOfASelectionSet)
     EXPECT_THAT(types(given.name), ElementsAre(ListedType{L"Circle", L"AcDbCircle", circle, 1}));
 }
 
+TEST_F(Listing, OfAnEmptySetIsEmptyWhateverIsSelected)
+{
+    select({add(model())->objectId()});
+    GivenSet given;
+    EXPECT_THAT(types(given.name), IsEmpty());
+    EXPECT_THAT(entities(given.name), IsEmpty());
+}
+
 TEST_F(Listing, OfAnEmptyDrawingIsEmptyAndSaysNothing)
 {
     EXPECT_THAT(types(), IsEmpty());

@@ -50,6 +50,12 @@ TEST(LayerRecord, MayHaveATrueColor)
     EXPECT_TRUE(drawn.record<KdDbLayerTable>(L"A")->isOff());
 }
 
+TEST(LayerRecord, WithTheLeastOfAllColorsIsOff)
+{
+    const ReadDrawing drawn = readEntry("LAYER", {{2, "A"}, {62, "-2147483648"}});
+    EXPECT_TRUE(drawn.record<KdDbLayerTable>(L"A")->isOff());
+}
+
 TEST(LayerRecord, OfAnExternalReferenceIsDependent)
 {
     const ReadDrawing drawn = readEntry("LAYER", {{2, "X|A"}, {70, "16"}});

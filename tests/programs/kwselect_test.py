@@ -105,6 +105,28 @@ class Selecting(unittest.TestCase):
         self.assertEqual(Run(drawing, "-p", "Color", "-v", "red").lines, red)
         self.assertTrue(red)
 
+    def test_a_circle_is_found_by_its_radius(self):
+        drawing = DRAWINGS / "all_basic_kinds_r2010.dxf"
+        circles = [e["handle"] for e in raw_entities(drawing) if e["kind"] == "CIRCLE"]
+        run = Run(drawing, "-t", "Circle", "-p", "Radius", "-o", ">", "-v", "12.4")
+        self.assertEqual(run.lines, circles)
+        self.assertEqual(Run(drawing, "-t", "Circle", "-p", "Radius", "-v", "12.4").status, NOTHING)
+
+    def test_an_angle_is_found_by_the_text_that_lists_it(self):
+        drawing = DRAWINGS / "all_basic_kinds_r2010.dxf"
+        listed = Run(drawing, "--list", "values", "-t", "Arc", "-p", "End angle").lines
+        text, count = listed[0].split("\t")
+        run = Run(drawing, "-t", "Arc", "-p", "End angle", "-v", text)
+        self.assertEqual(len(run.lines), int(count))
+
+    def test_an_empty_drawing_has_nothing_to_select(self):
+        with tempfile.TemporaryDirectory() as folder:
+            path = Path(folder) / "empty.dxf"
+            path.write_text("0\nSECTION\n2\nENTITIES\n0\nENDSEC\n0\nEOF\n")
+            run = Run(path, "--type", "Circle")
+        self.assertEqual((run.status, run.lines), (NOTHING, []))
+        self.assertIn("holds no objects", run.errors)
+
     def test_texts_match_wildcards(self):
         drawing = DRAWINGS / "all_basic_kinds_r2010.dxf"
         run = Run(drawing, "-p", "Hyperlink", "-o", "*", "-v", "*example.org*")
@@ -179,6 +201,14 @@ class Refusing(unittest.TestCase):
         self.assertIn('"orange" is no value', self.refused(self.plan, "-p", "Color", "-v", "orange"))
         message = self.refused(self.plan, "-p", "Linetype scale", "-v", "wide")
         self.assertIn('"wide" is no value', message)
+
+    def test_a_transparency_is_a_number_or_a_word(self):
+        self.assertIn('"thin" is no value', self.refused(self.plan, "-p", "Transparency", "-v", "thin"))
+        self.assertEqual(Run(self.plan, "-p", "Transparency", "-v", "bylayer").status, SELECTED)
+
+    def test_options_that_would_have_no_effect_are_refused(self):
+        self.assertIn("--dump", self.refused(self.plan, "--dump", "--type", "Circle"))
+        self.assertIn("--list", self.refused(self.plan, "--list", "types", "--exclude"))
 
     def test_an_operator_needs_a_value(self):
         self.assertIn("needs --value", self.refused(self.plan, "-p", "Layer", "-o", "="))

@@ -14,11 +14,13 @@
 #include <values/point_text.h>
 #include <values/real_text.h>
 
+#include <runtime/export.h>
+
 #include "support.h"
 
 // The C library itself never frees the folders that it takes from LOCPATH.
-extern "C" const char* __lsan_default_suppressions();
-extern "C" const char* __lsan_default_suppressions()
+extern "C" KW_EXPORT const char* __lsan_default_suppressions();
+extern "C" KW_EXPORT const char* __lsan_default_suppressions()
 {
     return "leak:__argz_add_sep";
 }

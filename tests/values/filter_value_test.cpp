@@ -158,10 +158,13 @@ TEST_F(FilterValues, OfSwitchesAreTrueForThatWordAlone)
     const Read yes(ResBuf::kBool, L"true");
     EXPECT_EQ(yes.valueType(), ResBuf::kBool);
     EXPECT_TRUE(yes.record().getBool());
-    for (const wchar_t* text : {L"false", L"True", L"1", L"yes"}) {
-        const Read no(ResBuf::kBool, text);
-        ASSERT_EQ(no.outcome(), FilterText::Read);
-        EXPECT_FALSE(no.record().getBool());
+    const Read no(ResBuf::kBool, L"false");
+    EXPECT_EQ(no.outcome(), FilterText::Read);
+    EXPECT_FALSE(no.record().getBool());
+    for (const wchar_t* text : {L"True", L"1", L"yes"}) {
+        const Read other(ResBuf::kBool, text);
+        ASSERT_EQ(other.outcome(), FilterText::Unreadable);
+        EXPECT_FALSE(other.record().getBool());
     }
 }
 
@@ -175,6 +178,8 @@ TEST_F(FilterValues, OfTransparencyAreCapitals)
         {L"bylayer", L"BYLAYER"}, {L"ByBlock", L"BYBLOCK"}, {L"49", L"49"}, {L"half", L"HALF"}};
     for (const auto& row : rows) {
         const Read read(ResBuf::kTransparencyText, row.text);
+        const bool isHalf = KdString(row.text) == L"half";
+        EXPECT_EQ(read.outcome(), isHalf ? FilterText::Unreadable : FilterText::Read);
         EXPECT_EQ(read.restype(), ResBuf::kTransparencyText);
         EXPECT_EQ(read.valueType(), ResBuf::kTransparencyText);
         EXPECT_EQ(read.text(), row.stored);

@@ -1,6 +1,7 @@
 /// The settings that a drawing keeps in its header.
 #pragma once
 
+#include <cassert>
 #include <cstdint>
 #include <span>
 #include <string_view>
@@ -32,8 +33,10 @@ class KW_EXPORT KdDbHeaderVariables
 
     KdDbHeaderVariables();
 
+    /// `index` must be one that `indexOf` gave for a name.
     const KdDbHeaderValue& value(int index) const
     {
+        assert(index >= 0 && static_cast<std::size_t>(index) < m_values.size());
         return m_values[static_cast<std::size_t>(index)];
     }
     /// False, with nothing changed, if `value` is not of the variable's kind.

@@ -38,7 +38,8 @@ struct ReadReport
 /// @param file      the file; it is read into memory whole, so it may change or go afterwards
 /// @param database  receives the drawing, owned by the caller; untouched on failure
 /// @param report    what was read and found; on failure its `error` is a sentence for the user
-/// @return          `eFileAccessError` for a file that is missing, no regular file or unreadable,
+/// @return          `eFileAccessError` for a file that is missing, no regular file, unreadable or
+///                  too large for the memory,
 ///                  `eBadDrawing` for one that is empty or no DXF, `eUserBreak` when cancelled
 KW_EXPORT KdErrorStatus readDrawing(const std::filesystem::path& file,
                                     std::unique_ptr<KdDbDatabase>& database, ReadReport& report,

@@ -6,7 +6,7 @@
 #include <runtime/export.h>
 
 /// One slot of the table: a text by number. Number 0 marks a free slot.
-struct ResourceText
+struct ResourceSlot
 {
     std::uint32_t id;
     std::uint32_t offset; ///< of the first character
@@ -22,7 +22,7 @@ struct ResourceTable
 {
     std::uint32_t version;
     std::uint32_t shift; ///< 32 less the bits of a slot number, so it tells the number of slots
-    const ResourceText* slots;
+    const ResourceSlot* slots;
     const wchar_t* characters;
 };
 

@@ -44,7 +44,7 @@ struct Type
     const wchar_t* displayName;
     const wchar_t* className;
     KdDbObjectId example; ///< the first entity of the type
-    std::size_t count;    ///< entities of the type
+    std::size_t count;    ///< entities of that name and class
 };
 
 /// An entity of the current space.
