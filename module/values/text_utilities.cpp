@@ -66,6 +66,8 @@ bool strisameW(const wchar_t* a, const wchar_t* b)
 
 bool equalLowered(std::wstring_view a, std::wstring_view b)
 {
+    if (a == b) // the usual case, and far cheaper to see than by lowering each character
+        return true;
     const auto& classic = std::use_facet<std::ctype<wchar_t>>(std::locale::classic());
     const auto equal = [&](wchar_t x, wchar_t y) {
         return classic.tolower(x) == classic.tolower(y);
