@@ -20,7 +20,7 @@ constexpr double kDefaultTolerance = 1.0e-8;
 /// Callers offer each kind its own operators only, so a user never comes here.
 bool refuseOperator()
 {
-    assert(!"the kind of value does not offer this operator");
+    assert(false && "the kind of value does not offer this operator");
     return false;
 }
 
