@@ -127,3 +127,18 @@ KdDbDictionaryIterator* KdDbDictionary::newIterator() const
 {
     return new KdDbDictionaryIterator(*this);
 }
+
+KdDbObjectId kddbDictionaryEntry(KdDbObjectId dictionary, const wchar_t* name)
+{
+    KdDbObjectId found;
+    if (!dictionary.isKindOf(KdDbDictionary::desc()))
+        return found;
+    if (const OpenForRead<KdDbDictionary> opened(dictionary); opened)
+        opened->getAt(name, found);
+    return found;
+}
+
+KdDbObjectId kddbExtensionEntry(const KdDbObject& object, const wchar_t* name)
+{
+    return kddbDictionaryEntry(object.extensionDictionary(), name);
+}

@@ -76,6 +76,21 @@ KdString KdDbEntity::plotStyleName() const
     return name;
 }
 
+bool KdDbEntity::isPlanar() const
+{
+    return false;
+}
+
+KdErrorStatus KdDbEntity::getGripPoints(KdArray<KdGePoint3d>&) const
+{
+    return eNotApplicable;
+}
+
+KdErrorStatus KdDbEntity::getGeomExtents(KdGeExtents3d&) const
+{
+    return eNotApplicable;
+}
+
 KdDbObjectId KdDbEntity::blockId() const
 {
     const KdDbObjectId owner = ownerId();

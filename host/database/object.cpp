@@ -113,6 +113,26 @@ const resbuf* KdDbObject::extendedData(const wchar_t* application, const resbuf*
     return first == end ? nullptr : first;
 }
 
+std::span<const KdDbObjectId> KdDbObject::reactors() const
+{
+    const auto& reactors = members().reactors;
+    return reactors ? std::span<const KdDbObjectId>(*reactors) : std::span<const KdDbObjectId>();
+}
+
+bool KdDbObject::isAnnotative() const
+{
+    // "AnnotativeData", {, the version, the flag, }
+    constexpr short kInteger = 1070;
+    const resbuf* end = nullptr;
+    int integers = 0;
+    for (const resbuf* record = extendedData(L"AcadAnnotative", end); record != end;
+         record = record->rbnext) {
+        if (record->restype == kInteger && ++integers == 2)
+            return record->resval.rint == 1;
+    }
+    return false;
+}
+
 KdErrorStatus kddbOpenKdDbObject(KdDbObject*& object, KdDbObjectId id, int mode, bool openErased)
 {
     KdDbObject* wanted = id.m_object;

@@ -108,7 +108,9 @@ void RecordReader::skipEmbeddedObject()
 
 void RecordReader::readApplicationGroup()
 {
-    const bool isExtensionDictionary = trimmed(m_group.text) == "{ACAD_XDICTIONARY";
+    const std::string_view name = trimmed(m_group.text);
+    const bool isExtensionDictionary = name == "{ACAD_XDICTIONARY";
+    const bool isReactors = name == "{ACAD_REACTORS";
     while (advance()) {
         if (m_group.code == 102)
             return;
@@ -118,7 +120,18 @@ void RecordReader::readApplicationGroup()
         }
         if (isExtensionDictionary && (m_group.code == 360 || m_group.code == 350))
             m_members.extensionDictionary = reference();
+        else if (isReactors && m_group.code == 330)
+            addReactor(reference());
     }
+}
+
+void RecordReader::addReactor(KdDbObjectId reactor)
+{
+    if (reactor.isNull())
+        return;
+    if (!m_members.reactors)
+        m_members.reactors = std::make_unique<std::vector<KdDbObjectId>>();
+    m_members.reactors->push_back(reactor);
 }
 
 bool RecordReader::takeColor()

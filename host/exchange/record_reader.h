@@ -71,6 +71,7 @@ class RecordReader
     bool nextCoordinate(int code, double& value);
     void skipEmbeddedObject();
     void readApplicationGroup();
+    void addReactor(KdDbObjectId reactor);
     bool isGeneralPart() const;
     bool takeGeneral();
     bool takeProperty();

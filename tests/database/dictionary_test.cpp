@@ -150,6 +150,22 @@ TEST(EmptyDictionary, HasNothingToFindOrWalk)
     EXPECT_TRUE(std::unique_ptr<KdDbDictionaryIterator>(dictionary.newIterator())->done());
 }
 
+TEST(DictionaryEntry, IsNullWithoutTheDictionaryOrTheKey)
+{
+    KdDbDatabase database;
+    auto* dictionary = new KdDbDictionary;
+    auto* value = new KdDbPlaceHolder;
+    database.addObject(value, {});
+    dictionary->edit().entries.push_back({L"Key", value->objectId()});
+    database.addObject(dictionary, {});
+    EXPECT_EQ(kddbDictionaryEntry(dictionary->objectId(), L"KEY"), value->objectId());
+    EXPECT_TRUE(kddbDictionaryEntry(dictionary->objectId(), L"Other").isNull());
+    EXPECT_TRUE(kddbDictionaryEntry(value->objectId(), L"Key").isNull());
+    EXPECT_TRUE(kddbDictionaryEntry({}, L"Key").isNull());
+    EXPECT_TRUE(kddbExtensionEntry(*value, L"Key").isNull());
+    EXPECT_EQ(database.openCount(), 0);
+}
+
 TEST(DictionaryWithDefault, NamesItsDefault)
 {
     KdDbDatabase database;

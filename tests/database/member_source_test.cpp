@@ -95,8 +95,8 @@ TEST_F(MembersFromASource, AreNotNeededForTheLayer)
 
 TEST(MembersInTheArena, GiveBackWhatTheyHoldOnTheHeap)
 {
-    KdDbDatabase(
-        KdDbDatabase::Content::Bare); // the first one makes texts that all later ones share
+    // The first one makes texts that all later ones share.
+    const auto first = std::make_unique<KdDbDatabase>(KdDbDatabase::Content::Bare);
     const long long before = kdHeapBlocksInUse();
     std::map<KdDbHandle, int> reads;
     {

@@ -261,6 +261,44 @@ TEST_F(ObjectExtendedData, IsNullWhereThereIsNone)
     EXPECT_EQ(KdDbLine().extendedData(L"First", m_end), nullptr);
 }
 
+ResbufChain annotativeData(short flag)
+{
+    return ExtendedData()
+        .text(1001, L"AcadAnnotative")
+        .text(1000, L"AnnotativeData")
+        .text(1002, L"{")
+        .number(1)
+        .number(flag)
+        .text(1002, L"}")
+        .take();
+}
+
+TEST(ObjectAnnotative, FollowsTheSecondNumberOfItsExtendedData)
+{
+    KdDbLine line;
+    EXPECT_FALSE(line.isAnnotative());
+    line.edit().extendedData = annotativeData(1);
+    EXPECT_TRUE(line.isAnnotative());
+    line.edit().extendedData = annotativeData(0);
+    EXPECT_FALSE(line.isAnnotative());
+}
+
+TEST(ObjectAnnotative, IsFalseWhereTheDataBreakOff)
+{
+    KdDbLine line;
+    line.edit().extendedData = ExtendedData().text(1001, L"AcadAnnotative").number(1).take();
+    EXPECT_FALSE(line.isAnnotative());
+}
+
+TEST(ObjectReactors, AreNoneUnlessGiven)
+{
+    KdDbLine line;
+    EXPECT_TRUE(line.reactors().empty());
+    line.edit().reactors = std::make_unique<std::vector<KdDbObjectId>>(1, line.objectId());
+    ASSERT_EQ(line.reactors().size(), 1u);
+    EXPECT_EQ(line.reactors()[0], line.objectId());
+}
+
 TEST(ObjectOutsideADatabase, CanBeChangedWithoutOpening)
 {
     KdDbLine line;

@@ -153,6 +153,9 @@ TEST(ExtensionDictionary, IsThatOfTheApplicationGroup)
     KdDbObjectId id;
     EXPECT_EQ(dictionary->getAt(L"key", id), eOk);
     EXPECT_EQ(id.handle(), 0xB2u);
+    EXPECT_EQ(kddbExtensionEntry(*drawn.entities()[0], L"KEY"), id);
+    ASSERT_EQ(drawn.entities()[0]->reactors().size(), 1u);
+    EXPECT_EQ(drawn.entities()[0]->reactors()[0], id);
 }
 
 TEST(ExtendedData, KeepsValuesOfEveryKind)

@@ -52,6 +52,11 @@ class KW_EXPORT KdDbDictionary : public KdDbObject
     mutable std::unique_ptr<KdDbDictionaryIndex> m_index;
 };
 
+/// The object under a key of a dictionary; the null id if there is no such dictionary or key.
+KW_EXPORT KdDbObjectId kddbDictionaryEntry(KdDbObjectId dictionary, const wchar_t* name);
+/// The object under a key of the dictionary that extends `object`, in the same way.
+KW_EXPORT KdDbObjectId kddbExtensionEntry(const KdDbObject& object, const wchar_t* name);
+
 class KW_EXPORT KdDbDictionaryWithDefault : public KdDbDictionary
 {
     KD_RX_DECLARE(KdDbDictionaryWithDefault)

@@ -3,6 +3,8 @@
 
 #include <database/color.h>
 #include <database/object.h>
+#include <geometry/extents.h>
+#include <runtime/kd_array.h>
 
 /// What every entity has; see `ObjectMembers`.
 struct KW_EXPORT EntityMembers : ObjectMembers
@@ -57,6 +59,15 @@ class KW_EXPORT KdDbEntity : public KdDbObject
     /// The block table record that the entity is part of; for vertices and attributes, that of the
     /// entity that owns them.
     KdDbObjectId blockId() const;
+
+    /// True if the whole entity lies in one plane. Here: false.
+    virtual bool isPlanar() const;
+    /// The points by which a person takes hold of the entity, in WCS, appended to `points`. Here
+    /// and where a kind has none: `eNotApplicable`.
+    virtual KdErrorStatus getGripPoints(KdArray<KdGePoint3d>& points) const;
+    /// The smallest box around the entity, in WCS. Here, and where a kind has no extents or an
+    /// entity no size: `eNotApplicable`, `extents` untouched.
+    virtual KdErrorStatus getGeomExtents(KdGeExtents3d& extents) const;
 
     /// Takes over a vertex, attribute or sequence end that follows this entity in its drawing.
     /// Entities without parts of their own ignore it.

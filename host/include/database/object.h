@@ -3,6 +3,8 @@
 
 #include <cstdint>
 #include <memory>
+#include <span>
+#include <vector>
 
 #include <database/object_id.h>
 #include <runtime/kd_string.h>
@@ -34,6 +36,9 @@ struct KW_EXPORT ObjectMembers
     KdDbObjectId extensionDictionary;
     /// All extended data of the object: each application begins with a 1001 record.
     ResbufChain extendedData;
+    /// Who wants to hear of changes, such as the dependencies of associative objects; null where
+    /// there are none, as with most objects.
+    std::unique_ptr<std::vector<KdDbObjectId>> reactors;
 };
 
 /// Where an object stands in the drawing file it came from. `length` 0: it did not come from a
@@ -76,6 +81,10 @@ class KW_EXPORT KdDbObject : public KdRxObject
     /// application's; null if there are none. The application's name is compared without case. The
     /// chain belongs to the object; `end` receives the first record that no longer counts.
     const resbuf* extendedData(const wchar_t* application, const resbuf*& end) const;
+    /// The objects that want to hear of changes to this one.
+    std::span<const KdDbObjectId> reactors() const;
+    /// True if the annotation scale decides the object's size. Here: what its extended data says.
+    virtual bool isAnnotative() const;
 
   protected:
     KdDbObject() = default;
