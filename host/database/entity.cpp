@@ -76,6 +76,22 @@ KdString KdDbEntity::plotStyleName() const
     return name;
 }
 
+void KdDbEntity::setPropertiesFrom(const KdDbEntity& other)
+{
+    EntityMembers& mine = edit();
+    const EntityMembers& theirs = other.data();
+    mine.linetype = theirs.linetype;
+    mine.plotStyle = theirs.plotStyle;
+    mine.colorName = theirs.colorName;
+    mine.linetypeScale = theirs.linetypeScale;
+    mine.color = theirs.color;
+    mine.transparency = theirs.transparency;
+    mine.lineweight = theirs.lineweight;
+    mine.plotStyleKind = theirs.plotStyleKind;
+    mine.invisible = theirs.invisible;
+    m_layer = other.m_layer;
+}
+
 bool KdDbEntity::isPlanar() const
 {
     return false;
@@ -87,6 +103,16 @@ KdErrorStatus KdDbEntity::getGripPoints(KdArray<KdGePoint3d>&) const
 }
 
 KdErrorStatus KdDbEntity::getGeomExtents(KdGeExtents3d&) const
+{
+    return eNotApplicable;
+}
+
+KdErrorStatus KdDbEntity::getBoundingPoints(KdArray<KdGePoint3d>&) const
+{
+    return eNotApplicable;
+}
+
+KdErrorStatus KdDbEntity::getOutline(KdArray<KdGePoint3d>&) const
 {
     return eNotApplicable;
 }

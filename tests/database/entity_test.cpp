@@ -163,6 +163,30 @@ TEST_F(EntityInModel, TellsWhatItsDataSay)
     EXPECT_TRUE(m_line->isInvisible());
 }
 
+TEST_F(EntityInModel, TakesOverThePropertiesOfAnother)
+{
+    m_line->setLayer(m_database.addRecord<KdDbLayerTable>(L"Rohre")->objectId());
+    edit([](EntityMembers& members) {
+        members.color = 0xC2102030;
+        members.colorName = L"Sand";
+        members.linetypeScale = 2.5;
+        members.lineweight = 35;
+        members.transparency = 0x02000080;
+        members.plotStyleKind = EntityMembers::PlotStyle::ByBlock;
+        members.invisible = true;
+    });
+    KdDbArc arc;
+    arc.setPropertiesFrom(*m_line);
+    EXPECT_EQ(arc.layer(), L"Rohre");
+    EXPECT_EQ(arc.color().color(), 0xC2102030u);
+    EXPECT_EQ(arc.color().colorName(), L"Sand");
+    EXPECT_EQ(arc.linetypeScale(), 2.5);
+    EXPECT_EQ(arc.lineWeight(), 35);
+    EXPECT_EQ(arc.transparency().alpha(), 128);
+    EXPECT_EQ(arc.plotStyleName(), L"ByBlock");
+    EXPECT_TRUE(arc.isInvisible());
+}
+
 TEST_F(EntityInModel, LiesInTheBlockThatOwnsIt)
 {
     EXPECT_EQ(m_line->blockId(), m_database.modelSpaceId());

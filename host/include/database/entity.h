@@ -55,6 +55,9 @@ class KW_EXPORT KdDbEntity : public KdDbObject
     /// not there.
     KdString plotStyleName() const;
     bool isInvisible() const { return data().invisible; }
+    /// Takes over layer, colour, linetype and its scale, lineweight, plot style, transparency and
+    /// visibility. The entity must be open for write or not yet in a database.
+    void setPropertiesFrom(const KdDbEntity& other);
 
     /// The block table record that the entity is part of; for vertices and attributes, that of the
     /// entity that owns them.
@@ -68,6 +71,13 @@ class KW_EXPORT KdDbEntity : public KdDbObject
     /// The smallest box around the entity, in WCS. Here, and where a kind has no extents or an
     /// entity no size: `eNotApplicable`, `extents` untouched.
     virtual KdErrorStatus getGeomExtents(KdGeExtents3d& extents) const;
+    /// The four corners of a text's frame, in WCS, appended to `points`: those of the lower edge
+    /// from left to right, then those of the upper edge from left to right, so that 0, 1, 3, 2 go
+    /// round. Here, and for kinds without such a frame: `eNotApplicable`.
+    virtual KdErrorStatus getBoundingPoints(KdArray<KdGePoint3d>& points) const;
+    /// The corners around what an image shows, in WCS, one after the other along the edge and none
+    /// twice, appended to `points`. Here, and for kinds without such an edge: `eNotApplicable`.
+    virtual KdErrorStatus getOutline(KdArray<KdGePoint3d>& points) const;
 
     /// Takes over a vertex, attribute or sequence end that follows this entity in its drawing.
     /// Entities without parts of their own ignore it.
