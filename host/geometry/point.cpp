@@ -3,6 +3,8 @@
 #include <cmath>
 #include <numbers>
 
+#include <geometry/plane.h>
+
 const KdGeVector3d KdGeVector3d::kXAxis{1.0, 0.0, 0.0};
 const KdGeVector3d KdGeVector3d::kYAxis{0.0, 1.0, 0.0};
 const KdGeVector3d KdGeVector3d::kZAxis{0.0, 0.0, 1.0};
@@ -12,6 +14,11 @@ const KdGePoint3d KdGePoint3d::kOrigin{};
 double KdGeVector2d::length() const
 {
     return std::hypot(x, y);
+}
+
+double KdGeVector2d::angle() const
+{
+    return std::atan2(y, x);
 }
 
 double KdGeVector3d::length() const
@@ -48,6 +55,14 @@ double KdGeVector3d::angleTo(const KdGeVector3d& other, const KdGeVector3d& axis
     return angle > 0.0 && kTurn - angle < kTurn ? kTurn - angle : 0.0;
 }
 
+KdGeVector3d KdGeVector3d::rotatedBy(double angle, const KdGeVector3d& axis) const
+{
+    const KdGeVector3d unit = axis.normal();
+    const KdGeVector3d along = unit * dotProduct(unit);
+    const KdGeVector3d across = *this + -along;
+    return along + across * std::cos(angle) + unit.crossProduct(across) * std::sin(angle);
+}
+
 bool KdGeVector3d::isEqualTo(const KdGeVector3d& other, const KdGeTol& tolerance) const
 {
     return KdGeVector3d{x - other.x, y - other.y, z - other.z}.length() <= tolerance.equalVector;
@@ -61,4 +76,15 @@ double KdGePoint2d::distanceTo(const KdGePoint2d& other) const
 double KdGePoint3d::distanceTo(const KdGePoint3d& other) const
 {
     return (*this - other).length();
+}
+
+bool KdGePoint3d::isEqualTo(const KdGePoint3d& other, const KdGeTol& tolerance) const
+{
+    return distanceTo(other) <= tolerance.equalPoint;
+}
+
+KdGePoint2d KdGePoint3d::convert2d(const KdGePlane& plane) const
+{
+    const KdGeVector3d offset = *this - plane.origin;
+    return {offset.dotProduct(plane.xAxis), offset.dotProduct(plane.yAxis)};
 }

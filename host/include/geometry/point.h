@@ -10,6 +10,8 @@ struct KW_EXPORT KdGeVector2d
     double y = 0.0;
 
     double length() const;
+    /// From the x axis, counter-clockwise, above minus half a turn up to half a turn, in radians.
+    double angle() const;
     bool operator==(const KdGeVector2d&) const = default;
 };
 
@@ -32,6 +34,9 @@ struct KW_EXPORT KdGeVector3d
     /// not including a whole turn. 0 if a vector has no length.
     /// @param axis  across both vectors; only the side to which it points matters
     double angleTo(const KdGeVector3d& other, const KdGeVector3d& axis) const;
+    /// The vector turned by an angle in radians, counter-clockwise as seen against `axis`, which
+    /// may have any length but 0.
+    KdGeVector3d rotatedBy(double angle, const KdGeVector3d& axis) const;
     bool isEqualTo(const KdGeVector3d& other, const KdGeTol& tolerance = KdGeContext::gTol) const;
     KdGeVector3d operator*(double factor) const { return {x * factor, y * factor, z * factor}; }
     KdGeVector3d operator+(const KdGeVector3d& o) const { return {x + o.x, y + o.y, z + o.z}; }
@@ -51,6 +56,8 @@ struct KW_EXPORT KdGePoint2d
     bool operator==(const KdGePoint2d&) const = default;
 };
 
+struct KdGePlane;
+
 struct KW_EXPORT KdGePoint3d
 {
     double x = 0.0;
@@ -60,6 +67,9 @@ struct KW_EXPORT KdGePoint3d
     static const KdGePoint3d kOrigin;
 
     double distanceTo(const KdGePoint3d& other) const;
+    bool isEqualTo(const KdGePoint3d& other, const KdGeTol& tolerance = KdGeContext::gTol) const;
+    /// The coordinates of the point's foot in a plane, along its axes.
+    KdGePoint2d convert2d(const KdGePlane& plane) const;
     KdGePoint3d operator+(const KdGeVector3d& v) const { return {x + v.x, y + v.y, z + v.z}; }
     KdGeVector3d operator-(const KdGePoint3d& o) const { return {x - o.x, y - o.y, z - o.z}; }
     KdGeVector3d asVector() const { return {x, y, z}; }

@@ -1,0 +1,217 @@
+#include <geometry/nurb_curve.h>
+
+#include <cmath>
+#include <limits>
+
+#include "support.h"
+
+namespace {
+
+using namespace geometry_test;
+
+using Knots = std::vector<double>;
+using Points = std::vector<KdGePoint3d>;
+
+constexpr double kNotANumber = std::numeric_limits<double>::quiet_NaN();
+
+/// y = x (1 - x), as a curve of degree 2.
+std::unique_ptr<KdGeNurbCurve3d> parabola()
+{
+    return KdGeNurbCurve3d::create(2, Knots{0, 0, 0, 1, 1, 1},
+                                   Points{{0, 0, 7}, {0.5, 0.5, 7}, {1, 0, 7}});
+}
+
+/// Radius 2 about the origin, as four rational quarters.
+std::unique_ptr<KdGeNurbCurve3d> circle()
+{
+    const double w = std::sqrt(0.5);
+    return KdGeNurbCurve3d::create(2, Knots{0, 0, 0, 1, 1, 2, 2, 3, 3, 4, 4, 4},
+                                   Points{{2, 0, 0},
+                                          {2, 2, 0},
+                                          {0, 2, 0},
+                                          {-2, 2, 0},
+                                          {-2, 0, 0},
+                                          {-2, -2, 0},
+                                          {0, -2, 0},
+                                          {2, -2, 0},
+                                          {2, 0, 0}},
+                                   Knots{1, w, 1, w, 1, w, 1, w, 1});
+}
+
+TEST(Spline, RunsOverItsKnots)
+{
+    const auto curve = parabola();
+    ASSERT_TRUE(curve);
+    EXPECT_EQ(curve->interval().lower, 0.0);
+    EXPECT_EQ(curve->interval().upper, 1.0);
+    EXPECT_THAT(curve->evalPoint(0.25), IsNear(KdGePoint3d{0.25, 0.1875, 7}));
+    EXPECT_THAT(startOf(*curve), IsNear(KdGePoint3d{0, 0, 7}));
+    EXPECT_THAT(endOf(*curve), IsNear(KdGePoint3d{1, 0, 7}));
+}
+
+TEST(Spline, HasTheLengthOfAParabola)
+{
+    // The integral of sqrt(1 + (1 - 2x)²), by hand: (sqrt 2 + asinh 1) / 2.
+    const double expected = (std::sqrt(2.0) + std::asinh(1.0)) / 2;
+    const auto curve = parabola();
+    ASSERT_TRUE(curve);
+    EXPECT_NEAR(wholeLength(*curve), expected, 1e-14);
+    EXPECT_NEAR(curve->length(0.5, 0, kTolerance), expected / 2, 1e-14);
+    EXPECT_NEAR(curve->length(-3, 4, kTolerance), expected, 1e-14);
+}
+
+TEST(Spline, HasTheAreaAndTheBoxOfAParabola)
+{
+    const auto curve = parabola();
+    ASSERT_TRUE(curve);
+    EXPECT_THAT(curve->areaVector(), IsNear(KdGeVector3d{0, 0, -1.0 / 6}));
+    EXPECT_THAT(extentsOf(*curve).minPoint, IsNear(KdGePoint3d{0, 0, 7}));
+    EXPECT_THAT(extentsOf(*curve).maxPoint, IsNear(KdGePoint3d{1, 0.25, 7}));
+}
+
+TEST(RationalSpline, MeasuresLikeTheCircleThatItIs)
+{
+    const auto curve = circle();
+    ASSERT_TRUE(curve);
+    EXPECT_NEAR(wholeLength(*curve), 4 * kPi, 1e-12);
+    EXPECT_THAT(curve->areaVector(), IsNear(KdGeVector3d{0, 0, 4 * kPi}));
+    EXPECT_THAT(curve->evalPoint(1.5), IsNear(KdGePoint3d{-std::sqrt(2.0), std::sqrt(2.0), 0}));
+    EXPECT_THAT(extentsOf(*curve).minPoint, IsNear(KdGePoint3d{-2, -2, 0}));
+    EXPECT_THAT(extentsOf(*curve).maxPoint, IsNear(KdGePoint3d{2, 2, 0}));
+}
+
+TEST(Spline, MayRunBackAndForthOnALine)
+{
+    // x' = 6 - 30t + 30t² vanishes twice, where the curve turns round.
+    const auto curve = KdGeNurbCurve3d::create(3, Knots{0, 0, 0, 0, 1, 1, 1, 1},
+                                               Points{{0, 0, 0}, {2, 0, 0}, {-1, 0, 0}, {1, 0, 0}});
+    const double turn = 0.5 - std::sqrt(0.05);
+    const double reach = turn * (6 + turn * (10 * turn - 15));
+    ASSERT_TRUE(curve);
+    EXPECT_NEAR(wholeLength(*curve), 4 * reach - 1, 1e-11);
+}
+
+TEST(Spline, MayHaveEndsThatItsControlPointsDoNotReach)
+{
+    // A uniform curve of degree 1 less: with knots 0..4 only the middle is run through.
+    const auto curve = KdGeNurbCurve3d::create(1, Knots{0, 1, 2, 3}, Points{{0, 0, 0}, {4, 0, 0}});
+    ASSERT_TRUE(curve);
+    EXPECT_EQ(curve->interval().lower, 1.0);
+    EXPECT_EQ(curve->interval().upper, 2.0);
+    EXPECT_THAT(endOf(*curve), IsNear(KdGePoint3d{4, 0, 0}));
+}
+
+TEST(Spline, MayShrinkToAPoint)
+{
+    const auto curve = KdGeNurbCurve3d::create(1, Knots{0, 0, 1, 1}, Points{{1, 2, 3}, {1, 2, 3}});
+    ASSERT_TRUE(curve);
+    EXPECT_EQ(wholeLength(*curve), 0.0);
+    EXPECT_THAT(extentsOf(*curve).minPoint, IsNear(KdGePoint3d{1, 2, 3}));
+}
+
+struct BadSpline
+{
+    const char* name;
+    int degree;
+    Knots knots;
+    Knots weights;
+    double firstX = 0.0;
+};
+
+class DamagedSpline : public testing::TestWithParam<BadSpline>
+{
+};
+
+TEST_P(DamagedSpline, IsRefused)
+{
+    const BadSpline& row = GetParam();
+    const Points points{{row.firstX, 0, 0}, {1, 1, 0}, {2, 0, 0}};
+    EXPECT_FALSE(KdGeNurbCurve3d::create(row.degree, row.knots, points, row.weights));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Lists, DamagedSpline,
+    testing::Values(BadSpline{"degreeZero", 0, {0, 1, 2, 3}, {}},
+                    BadSpline{"degreeAboveAll", 26, Knots(30, 0.0), {}},
+                    BadSpline{"tooFewPoints", 3, {0, 0, 0, 0, 1, 1, 1}, {}},
+                    BadSpline{"tooFewKnots", 2, {0, 0, 0, 1, 1}, {}},
+                    BadSpline{"noKnots", 2, {}, {}},
+                    BadSpline{"fallingKnots", 2, {0, 0, 0, 1, 0.5, 1}, {}},
+                    BadSpline{"equalKnots", 2, {1, 1, 1, 1, 1, 1}, {}},
+                    BadSpline{"knotTooOften", 1, {0, 0.5, 0.5, 0.5, 1}, {}},
+                    BadSpline{"noNumberAsKnot", 2, {0, 0, 0, 1, 1, kNotANumber}, {}},
+                    BadSpline{"noNumberAsPoint", 2, {0, 0, 0, 1, 1, 1}, {}, kNotANumber},
+                    BadSpline{"weightZero", 2, {0, 0, 0, 1, 1, 1}, {1, 0, 1}},
+                    BadSpline{"weightMissing", 2, {0, 0, 0, 1, 1, 1}, {1, 1}}),
+    [](const auto& info) { return info.param.name; });
+
+std::unique_ptr<KdGeNurbCurve3d> curveThrough(const KdGeFitData& data)
+{
+    const KdGeFitCurve fit = kdgeInterpolate(data);
+    return KdGeNurbCurve3d::create(3, fit.knots, fit.controlPoints);
+}
+
+TEST(FitCurve, RunsThroughItsPoints)
+{
+    const Points points{{0, 0, 0}, {3, 4, 0}, {6, 0, 5}, {7, 1, 1}};
+    const auto curve = curveThrough({points, {}, {}});
+    ASSERT_TRUE(curve);
+    double way = 0.0;
+    for (std::size_t i = 0; i < points.size(); ++i) {
+        way += i > 0 ? points[i].distanceTo(points[i - 1]) : 0.0;
+        EXPECT_THAT(curve->evalPoint(way), IsNear(points[i])) << i;
+    }
+}
+
+TEST(FitCurve, IsTheNaturalSplineUnlessTangentsAreGiven)
+{
+    // y over x = 0, 1, 2 with the values 0, 1, 0: y = 1.5 x - 0.5 x³ up to the middle.
+    const Points points{{0, 0, 0}, {std::sqrt(0.5), std::sqrt(0.5), 0}, {std::sqrt(2.0), 0, 0}};
+    const auto curve = curveThrough({points, {}, {}});
+    ASSERT_TRUE(curve);
+    const KdGePoint3d middle = curve->evalPoint(0.5);
+    EXPECT_NEAR(middle.y, std::sqrt(0.5) * (1.5 * 0.5 - 0.5 * 0.125), kNear);
+}
+
+TEST(FitCurve, LeavesAlongItsTangents)
+{
+    const Points points{{0, 0, 0}, {4, 0, 0}};
+    const auto curve = curveThrough({points, {0, 9, 0}, {0, -2, 0}});
+    ASSERT_TRUE(curve);
+    // The cubic with both slopes 1: y = x (1 - x / 4)... at unit speed, 4 long.
+    EXPECT_NEAR(curve->evalPoint(2).y, 1.0, kNear);
+    EXPECT_NEAR(curve->evalPoint(2).x, 2.0, kNear);
+}
+
+TEST(FitCurve, ClosesSmoothly)
+{
+    Points points;
+    for (int i = 0; i < 12; ++i)
+        points.push_back({std::cos(i * kPi / 6), std::sin(i * kPi / 6), 0});
+    const auto curve = curveThrough({points, {}, {}, true});
+    ASSERT_TRUE(curve);
+    EXPECT_THAT(startOf(*curve), IsNear(endOf(*curve)));
+    // By symmetry, each twelfth is alike; without care for the seam the first would differ.
+    const double upper = curve->interval().upper;
+    const double first = curve->length(0, upper / 12, kTolerance);
+    EXPECT_NEAR(curve->length(upper / 2, upper * 7 / 12, kTolerance), first, 1e-12);
+    EXPECT_NEAR(curve->length(upper * 11 / 12, upper, kTolerance), first, 1e-12);
+    EXPECT_NEAR(wholeLength(*curve), 2 * kPi, 1e-3);
+}
+
+TEST(FitCurve, PassesOverPointsThatRepeatTheOneBefore)
+{
+    const Points points{{0, 0, 0}, {0, 0, 0}, {1, 1, 0}, {1, 1, 0}, {2, 0, 0}};
+    const Points plain{{0, 0, 0}, {1, 1, 0}, {2, 0, 0}};
+    EXPECT_EQ(kdgeInterpolate({points, {}, {}}).controlPoints,
+              kdgeInterpolate({plain, {}, {}}).controlPoints);
+}
+
+TEST(FitCurve, NeedsTwoPoints)
+{
+    const Points same{{1, 1, 1}, {1, 1, 1}};
+    EXPECT_TRUE(kdgeInterpolate({same, {}, {}}).controlPoints.empty());
+    EXPECT_TRUE(kdgeInterpolate({{}, {}, {}}).knots.empty());
+}
+
+} // namespace
