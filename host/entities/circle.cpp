@@ -1,16 +1,24 @@
 #include <entities/circle.h>
 
-#include "turn.h"
+#include <geometry/arcs.h>
+
+#include "round_grips.h"
 
 KD_RX_DEFINE(KdDbCircle, KdDbCurve, L"AcDbCircle", L"CIRCLE")
 KD_RX_DEFINE(KdDbArc, KdDbCurve, L"AcDbArc", L"ARC")
 
 namespace {
 
-KdGePoint3d pointOf(const CircleMembers& circle, double angle)
+KdGeCircArc3d arcOf(const CircleMembers& circle, double startAngle, double endAngle)
 {
-    const KdGeVector3d arm{circle.radius * std::cos(angle), circle.radius * std::sin(angle), 0.0};
-    return circle.extrusion.toWorld(circle.center + arm);
+    const Extrusion& extrusion = circle.extrusion;
+    const KdGeVector3d xAxis = extrusion.frame() * KdGeVector3d::kXAxis;
+    return {extrusion.toWorld(circle.center),
+            extrusion.normal(),
+            xAxis,
+            circle.radius,
+            startAngle,
+            endAngle};
 }
 
 } // namespace
@@ -20,62 +28,24 @@ bool KdDbCircle::isClosed() const
     return true;
 }
 
-KdErrorStatus KdDbCircle::getStartParam(double& parameter) const
+KdErrorStatus KdDbCircle::askGeometry(const Question& question) const
 {
-    parameter = 0.0;
+    return question(arcOf(data(), 0.0, KdGe::kTurn));
+}
+
+KdErrorStatus KdDbCircle::getGripPoints(KdArray<KdGePoint3d>& points) const
+{
+    appendRingGrips(arcOf(data(), 0.0, KdGe::kTurn), points);
     return eOk;
 }
 
-KdErrorStatus KdDbCircle::getEndParam(double& parameter) const
+KdErrorStatus KdDbArc::askGeometry(const Question& question) const
 {
-    parameter = kTurn;
-    return eOk;
+    return question(arcOf(data(), startAngle(), endAngle()));
 }
 
-KdErrorStatus KdDbCircle::getStartPoint(KdGePoint3d& point) const
+KdErrorStatus KdDbArc::getGripPoints(KdArray<KdGePoint3d>& points) const
 {
-    point = pointOf(data(), 0.0);
-    return eOk;
-}
-
-KdErrorStatus KdDbCircle::getEndPoint(KdGePoint3d& point) const
-{
-    return getStartPoint(point);
-}
-
-KdErrorStatus KdDbCircle::getArea(double& area) const
-{
-    area = std::numbers::pi * radius() * radius();
-    return eOk;
-}
-
-KdErrorStatus KdDbArc::getStartParam(double& parameter) const
-{
-    parameter = startAngle();
-    return eOk;
-}
-
-KdErrorStatus KdDbArc::getEndParam(double& parameter) const
-{
-    parameter = endOfTurn(startAngle(), endAngle());
-    return eOk;
-}
-
-KdErrorStatus KdDbArc::getStartPoint(KdGePoint3d& point) const
-{
-    point = pointOf(data(), startAngle());
-    return eOk;
-}
-
-KdErrorStatus KdDbArc::getEndPoint(KdGePoint3d& point) const
-{
-    point = pointOf(data(), endAngle());
-    return eOk;
-}
-
-KdErrorStatus KdDbArc::getArea(double& area) const
-{
-    const double span = endOfTurn(startAngle(), endAngle()) - startAngle();
-    area = radius() * radius() * segmentArea(span);
+    appendArcGrips(arcOf(data(), startAngle(), endAngle()), points);
     return eOk;
 }

@@ -1,28 +1,33 @@
 #include <entities/ellipse.h>
 
-#include "turn.h"
+#include <cmath>
+
+#include <geometry/arcs.h>
+
+#include "round_grips.h"
 
 KD_RX_DEFINE(KdDbEllipse, KdDbCurve, L"AcDbEllipse", L"ELLIPSE")
+
+namespace {
+
+KdGeEllipArc3d arcOf(const KdDbEllipse& ellipse, double startParam, double endParam)
+{
+    const KdGeVector3d major = ellipse.majorAxis();
+    const KdGeVector3d minor = ellipse.minorAxis();
+    return {ellipse.center(), major, minor, major.length(), minor.length(), startParam, endParam};
+}
+
+} // namespace
 
 KdGeVector3d KdDbEllipse::minorAxis() const
 {
     return normal().crossProduct(majorAxis()) * radiusRatio();
 }
 
-double KdDbEllipse::span() const
-{
-    return endOfTurn(data().startParam, data().endParam) - data().startParam;
-}
-
 double KdDbEllipse::angleAt(double parameter) const
 {
     const double angle = std::atan2(radiusRatio() * std::sin(parameter), std::cos(parameter));
-    return angle < 0.0 ? angle + kTurn : angle;
-}
-
-KdGePoint3d KdDbEllipse::pointAt(double parameter) const
-{
-    return center() + majorAxis() * std::cos(parameter) + minorAxis() * std::sin(parameter);
+    return angle < 0.0 ? angle + KdGe::kTurn : angle;
 }
 
 double KdDbEllipse::startAngle() const
@@ -32,40 +37,35 @@ double KdDbEllipse::startAngle() const
 
 double KdDbEllipse::endAngle() const
 {
-    return isClosed() ? startAngle() + kTurn : angleAt(data().endParam);
+    return isClosed() ? startAngle() + KdGe::kTurn : angleAt(data().endParam);
+}
+
+double KdDbEllipse::paramAtAngle(double angle) const
+{
+    if (radiusRatio() == 0.0)
+        return angle; // the ellipse is a line, and all directions fall into one
+    const double parameter = std::atan2(std::sin(angle) / radiusRatio(), std::cos(angle));
+    return parameter + KdGe::kTurn * std::round((angle - parameter) / KdGe::kTurn);
 }
 
 bool KdDbEllipse::isClosed() const
 {
-    return std::abs(span() - kTurn) <= kAngleTolerance;
+    const double start = data().startParam;
+    const double span = KdGe::endOfTurn(start, data().endParam) - start;
+    return std::abs(span - KdGe::kTurn) <= KdGe::kAngleTolerance;
 }
 
-KdErrorStatus KdDbEllipse::getStartParam(double& parameter) const
+KdErrorStatus KdDbEllipse::askGeometry(const Question& question) const
 {
-    parameter = data().startParam;
-    return eOk;
+    return question(arcOf(*this, data().startParam, data().endParam));
 }
 
-KdErrorStatus KdDbEllipse::getEndParam(double& parameter) const
+KdErrorStatus KdDbEllipse::getGripPoints(KdArray<KdGePoint3d>& points) const
 {
-    parameter = data().startParam + span();
-    return eOk;
-}
-
-KdErrorStatus KdDbEllipse::getStartPoint(KdGePoint3d& point) const
-{
-    point = pointAt(data().startParam);
-    return eOk;
-}
-
-KdErrorStatus KdDbEllipse::getEndPoint(KdGePoint3d& point) const
-{
-    point = pointAt(data().endParam);
-    return eOk;
-}
-
-KdErrorStatus KdDbEllipse::getArea(double& area) const
-{
-    area = majorAxis().length() * minorAxis().length() * segmentArea(span());
+    const KdGeEllipArc3d arc = arcOf(*this, data().startParam, data().endParam);
+    if (isClosed())
+        appendRingGrips(arc, points);
+    else
+        appendArcGrips(arc, points);
     return eOk;
 }

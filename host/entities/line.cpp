@@ -1,27 +1,23 @@
 #include <entities/line.h>
 
+#include <geometry/linear_curves.h>
+
 KD_RX_DEFINE(KdDbLine, KdDbCurve, L"AcDbLine", L"LINE")
 
-KdErrorStatus KdDbLine::getStartParam(double& parameter) const
+KdErrorStatus KdDbLine::askGeometry(const Question& question) const
 {
-    parameter = 0.0;
-    return eOk;
+    return question(KdGeLineSeg3d(startPoint(), endPoint()));
 }
 
-KdErrorStatus KdDbLine::getEndParam(double& parameter) const
+KdErrorStatus KdDbLine::getArea(double&) const
 {
-    parameter = startPoint().distanceTo(endPoint());
-    return eOk;
+    return eNotApplicable;
 }
 
-KdErrorStatus KdDbLine::getStartPoint(KdGePoint3d& point) const
+KdErrorStatus KdDbLine::getGripPoints(KdArray<KdGePoint3d>& points) const
 {
-    point = startPoint();
-    return eOk;
-}
-
-KdErrorStatus KdDbLine::getEndPoint(KdGePoint3d& point) const
-{
-    point = endPoint();
+    points.append(startPoint());
+    points.append(endPoint());
+    points.append(startPoint() + (endPoint() - startPoint()) * 0.5);
     return eOk;
 }

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "flat_path.h"
+
 KD_RX_DEFINE(KdDbPolyline, KdDbCurve, L"AcDbPolyline", L"LWPOLYLINE")
 
 void PolylineMembers::setLastBulge(double bulge)
@@ -84,4 +86,66 @@ KdErrorStatus KdDbPolyline::getConstantWidth(double& width) const
 bool KdDbPolyline::isClosed() const
 {
     return data().closed;
+}
+
+void KdDbPolyline::reset(unsigned int vertexCount)
+{
+    PolylineMembers& polyline = edit();
+    polyline.points.assign(vertexCount, {});
+    polyline.bulges.clear();
+    polyline.widths.clear();
+    polyline.constantWidth = 0.0;
+}
+
+KdErrorStatus KdDbPolyline::setPointAt(unsigned int index, const KdGePoint2d& point)
+{
+    if (index >= numVerts())
+        return eOutOfRange;
+    edit().points[index] = point;
+    return eOk;
+}
+
+KdErrorStatus KdDbPolyline::setBulgeAt(unsigned int index, double bulge)
+{
+    if (index >= numVerts())
+        return eOutOfRange;
+    std::vector<double>& bulges = edit().bulges;
+    bulges.resize(std::max<std::size_t>(bulges.size(), index + 1), 0.0);
+    bulges[index] = bulge;
+    return eOk;
+}
+
+KdErrorStatus KdDbPolyline::setWidthsAt(unsigned int index, double startWidth, double endWidth)
+{
+    if (index >= numVerts())
+        return eOutOfRange;
+    PolylineMembers& polyline = edit();
+    polyline.widths.resize(std::max<std::size_t>(polyline.widths.size(), index + 1),
+                           {polyline.constantWidth, polyline.constantWidth});
+    polyline.widths[index] = {startWidth, endWidth};
+    return eOk;
+}
+
+void KdDbPolyline::setConstantWidth(double width)
+{
+    PolylineMembers& polyline = edit();
+    polyline.widths.clear();
+    polyline.constantWidth = width;
+}
+
+KdErrorStatus KdDbPolyline::getGripPoints(KdArray<KdGePoint3d>& points) const
+{
+    for (const KdGePoint2d& point : data().points)
+        points.append(data().extrusion.toWorld({point.x, point.y, elevation()}));
+    return eOk;
+}
+
+KdErrorStatus KdDbPolyline::askGeometry(const Question& question) const
+{
+    const PolylineMembers& polyline = data();
+    if (polyline.points.empty())
+        return eNotApplicable;
+    return question(
+        FlatPath({polyline.points, polyline.bulges, polyline.elevation, polyline.closed},
+                 polyline.extrusion));
 }

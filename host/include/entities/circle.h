@@ -23,13 +23,14 @@ class KW_EXPORT KdDbCircle : public KdDbCurve
     /// In WCS, of length 1.
     KdGeVector3d normal() const { return data().extrusion.normal(); }
 
-    /// The parameter is the angle from the x axis of the object frame, which is where it starts.
     bool isClosed() const override;
-    KdErrorStatus getStartParam(double& parameter) const override;
-    KdErrorStatus getEndParam(double& parameter) const override;
-    KdErrorStatus getStartPoint(KdGePoint3d& point) const override;
-    KdErrorStatus getEndPoint(KdGePoint3d& point) const override;
-    KdErrorStatus getArea(double& area) const override;
+    /// The centre and the four quadrants, from the start on.
+    KdErrorStatus getGripPoints(KdArray<KdGePoint3d>& points) const override;
+
+  protected:
+    /// The parameter is the angle from the x axis of the object frame, which is where it starts.
+    KdErrorStatus askGeometry(const Question& question) const override;
+    KdGeVector3d sweep() const override { return data().extrusion.sweep(); }
 };
 
 /// An arc is its circle and two angles. They are in radians, counter-clockwise about the normal
@@ -55,10 +56,11 @@ class KW_EXPORT KdDbArc : public KdDbCurve
     /// In WCS, of length 1.
     KdGeVector3d normal() const { return data().extrusion.normal(); }
 
+    /// The centre, both ends and the middle of the arc.
+    KdErrorStatus getGripPoints(KdArray<KdGePoint3d>& points) const override;
+
+  protected:
     /// The parameter is the angle, which in the end is not below that of the start.
-    KdErrorStatus getStartParam(double& parameter) const override;
-    KdErrorStatus getEndParam(double& parameter) const override;
-    KdErrorStatus getStartPoint(KdGePoint3d& point) const override;
-    KdErrorStatus getEndPoint(KdGePoint3d& point) const override;
-    KdErrorStatus getArea(double& area) const override;
+    KdErrorStatus askGeometry(const Question& question) const override;
+    KdGeVector3d sweep() const override { return data().extrusion.sweep(); }
 };

@@ -1,10 +1,9 @@
 /// Ellipses and elliptical arcs.
 #pragma once
 
-#include <numbers>
-
 #include <entities/curve.h>
 #include <entities/extrusion.h>
+#include <geometry/turn.h>
 
 /// The parameter t runs through centre + major axis * cos t + minor axis * sin t. It is in radians,
 /// but no angle; an end below the start lies in the next turn.
@@ -15,7 +14,7 @@ struct KW_EXPORT EllipseMembers : EntityMembers
     Extrusion extrusion;                   ///< gives the normal only
     double radiusRatio = 1.0;              ///< minor to major; negative turns the minor axis round
     double startParam = 0.0;
-    double endParam = 2.0 * std::numbers::pi;
+    double endParam = KdGe::kTurn;
 };
 
 class KW_EXPORT KdDbEllipse : public KdDbCurve
@@ -35,16 +34,17 @@ class KW_EXPORT KdDbEllipse : public KdDbCurve
     /// from the major axis, not below 0. The end of a closed ellipse is a turn behind its start.
     double startAngle() const;
     double endAngle() const;
+    /// The parameter at a direction, which is measured as those above; within a quarter of a turn
+    /// of it for a positive ratio.
+    double paramAtAngle(double angle) const;
 
     bool isClosed() const override;
-    KdErrorStatus getStartParam(double& parameter) const override;
-    KdErrorStatus getEndParam(double& parameter) const override;
-    KdErrorStatus getStartPoint(KdGePoint3d& point) const override;
-    KdErrorStatus getEndPoint(KdGePoint3d& point) const override;
-    KdErrorStatus getArea(double& area) const override;
+    /// The centre, and the ends of the axes, or the ends and the middle of an open arc.
+    KdErrorStatus getGripPoints(KdArray<KdGePoint3d>& points) const override;
+
+  protected:
+    KdErrorStatus askGeometry(const Question& question) const override;
 
   private:
-    double span() const;
     double angleAt(double parameter) const;
-    KdGePoint3d pointAt(double parameter) const;
 };

@@ -13,6 +13,8 @@ struct KW_EXPORT Extrusion
 
     /// The direction with length 1; the world's Z for a direction of no length.
     KdGeVector3d normal() const;
+    /// The thickness as a vector in WCS.
+    KdGeVector3d sweep() const { return normal() * thickness; }
     /// From the object frame to the world.
     KdGePoint3d toWorld(const KdGePoint3d& point) const;
     KdGeMatrix3d frame() const { return KdGeMatrix3d::planeToWorld(normal()); }

@@ -23,9 +23,12 @@ class KW_EXPORT KdDbLine : public KdDbCurve
     /// Direction of the thickness in WCS, of length 1.
     KdGeVector3d normal() const { return data().extrusion.normal(); }
 
-    /// The parameter is the distance from the start.
-    KdErrorStatus getStartParam(double& parameter) const override;
-    KdErrorStatus getEndParam(double& parameter) const override;
-    KdErrorStatus getStartPoint(KdGePoint3d& point) const override;
-    KdErrorStatus getEndPoint(KdGePoint3d& point) const override;
+    /// The parameter is the distance from the start. A line encloses no area.
+    KdErrorStatus getArea(double& area) const override;
+    /// Start, end and middle.
+    KdErrorStatus getGripPoints(KdArray<KdGePoint3d>& points) const override;
+
+  protected:
+    KdErrorStatus askGeometry(const Question& question) const override;
+    KdGeVector3d sweep() const override { return data().extrusion.sweep(); }
 };

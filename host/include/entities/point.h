@@ -23,4 +23,8 @@ class KW_EXPORT KdDbPoint : public KdDbEntity
     KdGeVector3d normal() const { return data().extrusion.normal(); }
     /// How far the point's mark is turned, in radians about the normal.
     double ecsRotation() const { return data().ecsRotation; }
+
+    bool isPlanar() const override { return true; }
+    KdErrorStatus getGripPoints(KdArray<KdGePoint3d>& points) const override;
+    KdErrorStatus getGeomExtents(KdGeExtents3d& extents) const override;
 };

@@ -57,6 +57,21 @@ class KW_EXPORT KdDbPolyline : public KdDbCurve
     /// untouched.
     KdErrorStatus getConstantWidth(double& width) const;
 
+    /// Makes the polyline have that many vertices, all in the origin, without bulges and widths.
+    void reset(unsigned int vertexCount);
+    /// Changes of one vertex, counted from 0. `eOutOfRange` if there is none.
+    KdErrorStatus setPointAt(unsigned int index, const KdGePoint2d& point);
+    KdErrorStatus setBulgeAt(unsigned int index, double bulge);
+    KdErrorStatus setWidthsAt(unsigned int index, double startWidth, double endWidth);
+    /// Gives all segments that width at both ends.
+    void setConstantWidth(double width);
+    void setClosed(bool closed) { edit().closed = closed; }
+    void setPlinegen(bool plinegen) { edit().plinegen = plinegen; }
+    void setElevation(double elevation) { edit().elevation = elevation; }
+    void setThickness(double thickness) { edit().extrusion.thickness = thickness; }
+    /// @param normal  in WCS, of any length but 0
+    void setNormal(const KdGeVector3d& normal) { edit().extrusion.direction = normal; }
+
     bool isClosed() const override;
     /// True if linetype patterns run on across the vertices.
     bool hasPlinegen() const { return data().plinegen; }
@@ -65,4 +80,12 @@ class KW_EXPORT KdDbPolyline : public KdDbCurve
     double thickness() const { return data().extrusion.thickness; }
     /// In WCS, of length 1.
     KdGeVector3d normal() const { return data().extrusion.normal(); }
+
+    /// The vertices, in WCS.
+    KdErrorStatus getGripPoints(KdArray<KdGePoint3d>& points) const override;
+
+  protected:
+    /// Segment i has the parameters from i to i + 1.
+    KdErrorStatus askGeometry(const Question& question) const override;
+    KdGeVector3d sweep() const override { return data().extrusion.sweep(); }
 };

@@ -21,9 +21,12 @@ class KW_EXPORT KdDbRay : public KdDbCurve
     /// In WCS, of length 1.
     KdGeVector3d unitDir() const { return data().direction.normal(); }
 
+    /// The base point, and the point one unit behind it.
+    KdErrorStatus getGripPoints(KdArray<KdGePoint3d>& points) const override;
+
+  protected:
     /// The parameter is the distance from the base point.
-    KdErrorStatus getStartParam(double& parameter) const override;
-    KdErrorStatus getStartPoint(KdGePoint3d& point) const override;
+    KdErrorStatus askGeometry(const Question& question) const override;
 };
 
 /// Runs through its base point both ways and has no ends.
@@ -36,4 +39,11 @@ class KW_EXPORT KdDbXline : public KdDbCurve
     KdGePoint3d basePoint() const { return data().basePoint; }
     /// In WCS, of length 1.
     KdGeVector3d unitDir() const { return data().direction.normal(); }
+
+    /// The base point, and the points one unit before and behind it.
+    KdErrorStatus getGripPoints(KdArray<KdGePoint3d>& points) const override;
+
+  protected:
+    /// The parameter is the distance from the base point, negative before it.
+    KdErrorStatus askGeometry(const Question& question) const override;
 };

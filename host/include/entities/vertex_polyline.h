@@ -54,6 +54,15 @@ class KW_EXPORT KdDb2dPolyline : public KdDbOwnerOfParts<KdDbCurve>
     double thickness() const { return data().extrusion.thickness; }
     /// In WCS, of length 1.
     KdGeVector3d normal() const { return data().extrusion.normal(); }
+
+    /// The vertices, those that are off a smoothed curve included, in WCS.
+    KdErrorStatus getGripPoints(KdArray<KdGePoint3d>& points) const override;
+
+  protected:
+    /// The curve that is drawn: it runs through all vertices but the control points of a spline.
+    /// The segment behind drawn vertex i has the parameters from i to i + 1.
+    KdErrorStatus askGeometry(const Question& question) const override;
+    KdGeVector3d sweep() const override { return data().extrusion.sweep(); }
 };
 
 struct KW_EXPORT Polyline3dMembers : EntityMembers
@@ -71,4 +80,14 @@ class KW_EXPORT KdDb3dPolyline : public KdDbOwnerOfParts<KdDbCurve>
     std::unique_ptr<KdDbObjectIterator> vertexIterator() const { return iteratorOverParts(); }
     KdDb::Poly3dType polyType() const { return data().type; }
     bool isClosed() const override;
+    bool isPlanar() const override;
+    /// The vertices, those that are off a smoothed curve included, in WCS.
+    KdErrorStatus getGripPoints(KdArray<KdGePoint3d>& points) const override;
+
+  protected:
+    /// As for a 2D polyline.
+    KdErrorStatus askGeometry(const Question& question) const override;
+
+  private:
+    std::vector<KdGePoint3d> drawnPoints() const;
 };
