@@ -196,4 +196,48 @@ TEST(Polyline, KeepsItsFlagsAndLengths)
     EXPECT_THAT(polyline.normal(), IsNear(KdGeVector3d{0, 0, -1}));
 }
 
+TEST(Polyline, CanBeRefilled)
+{
+    KdDbPolyline polyline;
+    addVertices(polyline, 5).setLastBulge(1.0);
+    polyline.setConstantWidth(2.0);
+    polyline.reset(2);
+    EXPECT_EQ(polyline.numVerts(), 2u);
+    EXPECT_EQ(bulgeAt(polyline, 1), 0.0);
+    EXPECT_EQ(widthsAt(polyline, 1), (PolylineMembers::Widths{0.0, 0.0}));
+    EXPECT_EQ(polyline.setPointAt(1, {3, 4}), eOk);
+    EXPECT_EQ(polyline.setBulgeAt(0, 0.5), eOk);
+    EXPECT_EQ(polyline.setWidthsAt(1, 1.0, 2.0), eOk);
+    KdGePoint2d point;
+    EXPECT_EQ(polyline.getPointAt(1, point), eOk);
+    EXPECT_EQ(point, (KdGePoint2d{3, 4}));
+    EXPECT_EQ(bulgeAt(polyline, 0), 0.5);
+    EXPECT_EQ(bulgeAt(polyline, 1), 0.0);
+    EXPECT_EQ(widthsAt(polyline, 0), (PolylineMembers::Widths{0.0, 0.0}));
+    EXPECT_EQ(widthsAt(polyline, 1), (PolylineMembers::Widths{1.0, 2.0}));
+}
+
+TEST(Polyline, RefusesToChangeAVertexItLacks)
+{
+    KdDbPolyline polyline;
+    EXPECT_EQ(polyline.setPointAt(0, {3, 4}), eOutOfRange);
+    EXPECT_EQ(polyline.setBulgeAt(0, 1.0), eOutOfRange);
+    EXPECT_EQ(polyline.setWidthsAt(0, 1.0, 1.0), eOutOfRange);
+    EXPECT_EQ(polyline.numVerts(), 0u);
+}
+
+TEST(Polyline, TakesOneWidthForAllSegments)
+{
+    KdDbPolyline polyline;
+    addVertices(polyline, 3).setLastEndWidth(5.0);
+    polyline.setConstantWidth(2.0);
+    double width = 0.0;
+    EXPECT_EQ(polyline.getConstantWidth(width), eOk);
+    EXPECT_EQ(width, 2.0);
+    polyline.setClosed(true);
+    polyline.setPlinegen(true);
+    EXPECT_TRUE(polyline.isClosed());
+    EXPECT_TRUE(polyline.hasPlinegen());
+}
+
 } // namespace
