@@ -28,6 +28,7 @@ std::span<const MemberReaderRow> tableReaders();
 std::span<const MemberReaderRow> objectReaders();
 std::span<const MemberReaderRow> curveReaders();
 std::span<const MemberReaderRow> polylineReaders();
+std::span<const MemberReaderRow> splineReaders();
 std::span<const MemberReaderRow> meshReaders();
 std::span<const MemberReaderRow> textReaders();
 std::span<const MemberReaderRow> insertReaders();

@@ -21,8 +21,8 @@ class ReaderMap
     ReaderMap()
     {
         for (const auto rows :
-             {tableReaders(), objectReaders(), curveReaders(), polylineReaders(), meshReaders(),
-              textReaders(), insertReaders(), viewportReaders(), proxyReaders()}) {
+             {tableReaders(), objectReaders(), curveReaders(), polylineReaders(), splineReaders(),
+              meshReaders(), textReaders(), insertReaders(), viewportReaders(), proxyReaders()}) {
             for (const MemberReaderRow& row : rows)
                 m_readers.emplace(row.rxClass(), row.read);
         }

@@ -93,6 +93,8 @@ void read2dPolyline(RecordReader& reader, Polyline2dMembers& polyline)
             takeExtrusion(reader, polyline.extrusion);
         }
     }
+    if (reader.elevation() != 0.0) // of the oldest drawings, which give no point
+        polyline.elevation = reader.elevation();
     polyline.closed = (flags & kClosed) != 0;
     polyline.plinegen = (flags & kPlinegen) != 0;
     polyline.type = poly2dType(flags, smoothing);

@@ -336,6 +336,25 @@ TEST(Polyline2d, IsReadWithItsVertices)
     EXPECT_TRUE(second->isTangentUsed());
 }
 
+TEST(Polyline2d, HasItsElevationByItselfInTheOldestDrawings)
+{
+    const ReadDrawing drawn = readGroups(drawing({section("ENTITIES", {{0, "POLYLINE"},
+                                                                       {8, "0"},
+                                                                       {38, "4"},
+                                                                       {66, "1"},
+                                                                       {0, "VERTEX"},
+                                                                       {8, "0"},
+                                                                       {10, "1"},
+                                                                       {20, "2"},
+                                                                       {0, "SEQEND"}})}));
+    const auto* polyline = drawn.entity<KdDb2dPolyline>(0);
+    ASSERT_TRUE(polyline);
+    EXPECT_EQ(polyline->elevation(), 4.0);
+    KdGePoint3d start;
+    EXPECT_EQ(polyline->getStartPoint(start), eOk);
+    EXPECT_EQ(start, (KdGePoint3d{1, 2, 4}));
+}
+
 struct SmoothCase
 {
     const char* name;

@@ -1,0 +1,151 @@
+// Splines and helices.
+#include <entities/spline.h>
+
+#include "member_readers.h"
+
+namespace dxf {
+namespace {
+
+constexpr int kClosed = 1;
+constexpr int kPeriodic = 2;
+constexpr int kPlanar = 8;
+constexpr int kLinear = 16;
+
+void takeFlags(int flags, SplineMembers& spline)
+{
+    spline.closed = (flags & kClosed) != 0;
+    spline.periodic = (flags & kPeriodic) != 0;
+    spline.planar = (flags & (kPlanar | kLinear)) != 0;
+}
+
+/// One of the lists. The counts that a drawing states beforehand are not looked at.
+void takeFromList(RecordReader& reader, SplineMembers& spline)
+{
+    switch (reader.code()) {
+    case 10:
+        spline.controlPoints.push_back(reader.point());
+        break;
+    case 11:
+        spline.fitPoints.push_back(reader.point());
+        break;
+    case 40:
+        spline.knots.push_back(reader.real());
+        break;
+    case 41:
+        spline.weights.push_back(reader.real());
+        break;
+    default:
+        break;
+    }
+}
+
+void takeSpline(RecordReader& reader, SplineMembers& spline)
+{
+    switch (reader.code()) {
+    case 12:
+        spline.startTangent = reader.vector();
+        break;
+    case 13:
+        spline.endTangent = reader.vector();
+        break;
+    case 42:
+        spline.knotTolerance = reader.real();
+        break;
+    case 43:
+        spline.controlPointTolerance = reader.real();
+        break;
+    case 44:
+        spline.fitTolerance = reader.real();
+        break;
+    case 70:
+        takeFlags(reader.integer(), spline);
+        break;
+    case 71:
+        spline.degree = reader.shortInteger();
+        break;
+    case 210:
+        spline.normal = reader.vector();
+        break;
+    default:
+        takeFromList(reader, spline);
+    }
+}
+
+void readSpline(RecordReader& reader, SplineMembers& spline)
+{
+    while (reader.next())
+        takeSpline(reader, spline);
+    spline.fitCurve();
+}
+
+/// Drawings number the constraints in another way; what is none of the three stays as it is.
+std::int16_t constraintOf(std::int16_t number)
+{
+    switch (number) {
+    case 0:
+        return KdDb::kHelixTurnHeight;
+    case 1:
+        return KdDb::kHelixTurns;
+    case 2:
+        return KdDb::kHelixHeight;
+    default:
+        return number;
+    }
+}
+
+void takeHelix(RecordReader& reader, HelixMembers& helix)
+{
+    switch (reader.code()) {
+    case 10:
+        helix.axisPoint = reader.point();
+        break;
+    case 11:
+        helix.startPoint = reader.point();
+        break;
+    case 12:
+        helix.axis = reader.vector();
+        break;
+    case 40:
+        helix.topRadius = reader.real();
+        break;
+    case 41:
+        helix.turns = reader.real();
+        break;
+    case 42:
+        helix.turnHeight = reader.real();
+        break;
+    case 280:
+        helix.constraint = constraintOf(reader.shortInteger());
+        break;
+    case 290:
+        helix.rightHanded = reader.flag();
+        break;
+    default:
+        break;
+    }
+}
+
+void readHelix(RecordReader& reader, HelixMembers& helix)
+{
+    while (reader.next()) {
+        if (reader.isIn("AcDbHelix"))
+            takeHelix(reader, helix);
+        else
+            takeSpline(reader, helix);
+    }
+    helix.fitCurve();
+}
+
+constexpr MemberReaderRow kRows[] = {
+    memberReader<KdDbSpline, SplineMembers, readSpline>(),
+    memberReader<KdDbHelix, HelixMembers, readHelix>(),
+};
+
+} // namespace
+
+std::span<const MemberReaderRow> splineReaders()
+{
+    return kRows;
+}
+
+} // namespace dxf
