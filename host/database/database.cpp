@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cassert>
 
+#include <database/dimension_style.h>
+
 KdDbMemberSource::~KdDbMemberSource() = default;
 
 KdDbDatabase::KdDbDatabase(Content content)

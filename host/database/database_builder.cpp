@@ -2,6 +2,8 @@
 
 #include <cassert>
 
+#include <database/dimension_style.h>
+
 KdDbObject* KdDbDatabaseBuilder::make(const KdRxClass* rxClass, KdDbHandle handle,
                                       SourceRange source)
 {
@@ -87,8 +89,15 @@ void KdDbDatabaseBuilder::addStandardRecords()
     m_database.findOrAddRecord<KdDbLayerTable>(L"0");
     for (const wchar_t* name : {L"ByBlock", L"ByLayer", L"Continuous"})
         m_database.findOrAddRecord<KdDbLinetypeTable>(name);
-    m_database.findOrAddRecord<KdDbTextStyleTable>(L"Standard");
-    m_database.findOrAddRecord<KdDbDimStyleTable>(L"Standard");
+    const KdDbObjectId textStyle = m_database.findOrAddRecord<KdDbTextStyleTable>(L"Standard");
+    const KdDbObjectId style = m_database.findOrAddRecord<KdDbDimStyleTable>(L"Standard");
+    KdDbDimStyleTableRecord* record = nullptr;
+    if (kddbOpenObject(record, style) == eOk) {
+        auto& members = static_cast<DimStyleMembers&>(membersForFilling(*record));
+        if (!members.variables.has(KdDbDimVar::dimtxsty))
+            members.variables.set(KdDbDimVar::dimtxsty, textStyle);
+        record->close();
+    }
     m_database.findOrAddRecord<KdDbRegAppTable>(L"ACAD");
 }
 

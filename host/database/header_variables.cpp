@@ -6,6 +6,8 @@
 #include <numbers>
 #include <utility>
 
+#include <database/dimension_variables.h>
+
 namespace {
 
 constexpr double kEmptyExtent = 1e20;
@@ -17,6 +19,27 @@ constexpr KdGePoint3d kAlongY{0.0, 1.0, 0.0};
 constexpr KdGePoint3d kEmptyMinimum{kEmptyExtent, kEmptyExtent, kEmptyExtent};
 constexpr KdGePoint3d kEmptyMaximum{-kEmptyExtent, -kEmptyExtent, -kEmptyExtent};
 constexpr KdGePoint3d kSmallSheet{12.0, 9.0, 0.0};
+
+constexpr int headerGroup(KdDbDimKind kind)
+{
+    switch (kind) {
+    case KdDbDimKind::Real:
+    case KdDbDimKind::Angle:
+        return 40;
+    case KdDbDimKind::Text:
+    case KdDbDimKind::Block: // by the arrow's name
+        return 1;
+    case KdDbDimKind::TextStyle:
+        return 7;
+    case KdDbDimKind::Linetype:
+        return 6;
+    default:
+        return 70;
+    }
+}
+
+#define KD_DIM_HEADER_ROW(accessor, NAME, code, kind, initial)                                     \
+    {L"" #NAME, headerGroup(KdDbDimKind::kind), initial},
 
 // What belongs to the file and not to the drawing (its version, code page and next handle) is left
 // to readers and writers.
@@ -90,32 +113,9 @@ std::span<const KdDbHeaderVariable> table()
         {L"PUCSORGRIGHT", 10, kNowhere}, {L"PUCSORGFRONT", 10, kNowhere},
         {L"PUCSORGBACK", 10, kNowhere},
 
-        // Dimensions: texts and names
-        {L"DIMPOST", 1, L""}, {L"DIMAPOST", 1, L""}, {L"DIMBLK", 1, L""}, {L"DIMBLK1", 1, L""},
-        {L"DIMBLK2", 1, L""}, {L"DIMLDRBLK", 1, L""}, {L"DIMTXSTY", 7, L"Standard"},
-        {L"DIMLTYPE", 6, L""}, {L"DIMLTEX1", 6, L""}, {L"DIMLTEX2", 6, L""},
-
-        // Dimensions: sizes and factors
-        {L"DIMSCALE", 40, 1.0}, {L"DIMASZ", 40, 0.18}, {L"DIMEXO", 40, 0.0625},
-        {L"DIMDLI", 40, 0.38}, {L"DIMEXE", 40, 0.18}, {L"DIMRND", 40, 0.0}, {L"DIMDLE", 40, 0.0},
-        {L"DIMTP", 40, 0.0}, {L"DIMTM", 40, 0.0}, {L"DIMFXL", 40, 1.0},
-        {L"DIMJOGANG", 40, kQuarterTurn / 2.0}, {L"DIMTXT", 40, 0.18}, {L"DIMCEN", 40, 0.09},
-        {L"DIMTSZ", 40, 0.0}, {L"DIMALTF", 40, 25.4}, {L"DIMLFAC", 40, 1.0}, {L"DIMTVP", 40, 0.0},
-        {L"DIMTFAC", 40, 1.0}, {L"DIMGAP", 40, 0.09}, {L"DIMALTRND", 40, 0.0},
-
-        // Dimensions: switches, choices and colours
-        {L"DIMTOL", 70, 0}, {L"DIMLIM", 70, 0}, {L"DIMTIH", 70, 1}, {L"DIMTOH", 70, 1},
-        {L"DIMSE1", 70, 0}, {L"DIMSE2", 70, 0}, {L"DIMTAD", 70, 0}, {L"DIMZIN", 70, 0},
-        {L"DIMAZIN", 70, 0}, {L"DIMARCSYM", 70, 0}, {L"DIMTFILL", 70, 0}, {L"DIMTFILLCLR", 70, 0},
-        {L"DIMALT", 70, 0}, {L"DIMALTD", 70, 2}, {L"DIMTOFL", 70, 0}, {L"DIMSAH", 70, 0},
-        {L"DIMTIX", 70, 0}, {L"DIMSOXD", 70, 0}, {L"DIMCLRD", 70, 0}, {L"DIMCLRE", 70, 0},
-        {L"DIMCLRT", 70, 0}, {L"DIMADEC", 70, 0}, {L"DIMDEC", 70, 4}, {L"DIMTDEC", 70, 4},
-        {L"DIMALTU", 70, 2}, {L"DIMALTTD", 70, 2}, {L"DIMAUNIT", 70, 0}, {L"DIMFRAC", 70, 0},
-        {L"DIMLUNIT", 70, 2}, {L"DIMDSEP", 70, 46}, {L"DIMTMOVE", 70, 0}, {L"DIMJUST", 70, 0},
-        {L"DIMSD1", 70, 0}, {L"DIMSD2", 70, 0}, {L"DIMTOLJ", 70, 1}, {L"DIMTZIN", 70, 0},
-        {L"DIMALTZ", 70, 0}, {L"DIMALTTZ", 70, 0}, {L"DIMUPT", 70, 0}, {L"DIMATFIT", 70, 3},
-        {L"DIMFXLON", 70, 0}, {L"DIMTXTDIRECTION", 70, 0}, {L"DIMLWD", 70, -2},
-        {L"DIMLWE", 70, -2}, {L"DIMASSOC", 280, 2}, {L"DIMASO", 70, 1}, {L"DIMSHO", 70, 1},
+        // Dimensions: the current value of each variable that styles hold, and what styles do not
+        KD_DIM_VARIABLES(KD_DIM_HEADER_ROW)
+        {L"DIMASSOC", 280, 2}, {L"DIMASO", 70, 1}, {L"DIMSHO", 70, 1},
 
         // Where and when; dates are Julian days, durations days
         {L"LATITUDE", 40, 37.795}, {L"LONGITUDE", 40, -122.394}, {L"NORTHDIRECTION", 40, 0.0},

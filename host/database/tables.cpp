@@ -8,9 +8,6 @@ KD_RX_DEFINE(KdDbTextStyleTable, KdDbSymbolTable, L"AcDbTextStyleTable", L"TABLE
 KD_RX_DEFINE(KdDbTextStyleTableRecord, KdDbSymbolTableRecord, L"AcDbTextStyleTableRecord", L"STYLE")
 KD_RX_DEFINE(KdDbUCSTable, KdDbSymbolTable, L"AcDbUCSTable", L"TABLE")
 KD_RX_DEFINE(KdDbUCSTableRecord, KdDbSymbolTableRecord, L"AcDbUCSTableRecord", L"UCS")
-KD_RX_DEFINE(KdDbDimStyleTable, KdDbSymbolTable, L"AcDbDimStyleTable", L"TABLE")
-KD_RX_DEFINE(KdDbDimStyleTableRecord, KdDbSymbolTableRecord, L"AcDbDimStyleTableRecord",
-             L"DIMSTYLE")
 KD_RX_DEFINE(KdDbRegAppTable, KdDbSymbolTable, L"AcDbRegAppTable", L"TABLE")
 KD_RX_DEFINE(KdDbRegAppTableRecord, KdDbSymbolTableRecord, L"AcDbRegAppTableRecord", L"APPID")
 KD_RX_DEFINE(KdDbViewportTable, KdDbSymbolTable, L"AcDbViewportTable", L"TABLE")

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include <database/database.h>
+#include <database/dimension_style.h>
 
 #include "file_bytes.h"
 #include "file_form.h"
@@ -58,6 +59,11 @@ struct DrawingSource
     {
         return textStyles.find(database, decoder, findings, DrawingFinding::UndefinedStyle, name);
     }
+    KdDbObjectId dimensionStyle(const Group& name)
+    {
+        return dimensionStyles.find(database, decoder, findings, DrawingFinding::UndefinedStyle,
+                                    name);
+    }
     /// The null id if there is no such block, which is noted.
     KdDbObjectId block(const Group& name);
     /// The viewport that comes first in a block.
@@ -76,6 +82,7 @@ struct DrawingSource
     std::vector<ForeignClass> classes; ///< in the order of the file
     NamedRecords<KdDbLinetypeTable> linetypes;
     NamedRecords<KdDbTextStyleTable> textStyles;
+    NamedRecords<KdDbDimStyleTable> dimensionStyles;
     std::unordered_map<std::string_view, KdDbObjectId> blocks;
     std::unordered_map<KdDbObjectId, KdDbObjectId> firstViewports;
 };

@@ -25,6 +25,7 @@ constexpr MemberReaderRow memberReader()
 }
 
 std::span<const MemberReaderRow> tableReaders();
+std::span<const MemberReaderRow> dimensionStyleReaders();
 std::span<const MemberReaderRow> objectReaders();
 std::span<const MemberReaderRow> curveReaders();
 std::span<const MemberReaderRow> polylineReaders();

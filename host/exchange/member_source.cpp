@@ -23,6 +23,9 @@ class ReaderMap
         for (const auto rows :
              {tableReaders(), objectReaders(), curveReaders(), polylineReaders(), splineReaders(),
               meshReaders(), textReaders(), insertReaders(), viewportReaders(), proxyReaders()}) {
+        for (const auto rows : {tableReaders(), dimensionStyleReaders(), objectReaders(),
+                                curveReaders(), polylineReaders(), meshReaders(), textReaders(),
+                                insertReaders(), viewportReaders(), proxyReaders()}) {
             for (const MemberReaderRow& row : rows)
                 m_readers.emplace(row.rxClass(), row.read);
         }

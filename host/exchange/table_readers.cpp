@@ -6,6 +6,7 @@
 #include <database/tables.h>
 
 #include "member_readers.h"
+#include "table_flags.h"
 
 namespace dxf {
 namespace {
@@ -14,15 +15,6 @@ constexpr int kFrozen = 1;
 constexpr int kShapeFile = 1;
 constexpr int kLocked = 4;
 constexpr int kVertical = 4;
-constexpr int kDependent = 16;
-
-/// The flags that all records have; the kind's own bits are the reader's.
-int readFlags(RecordReader& reader, SymbolTableRecordMembers& record)
-{
-    const int flags = reader.integer();
-    record.dependent = (flags & kDependent) != 0;
-    return flags;
-}
 
 void readRecord(RecordReader& reader, SymbolTableRecordMembers& record)
 {
@@ -30,7 +22,7 @@ void readRecord(RecordReader& reader, SymbolTableRecordMembers& record)
     bool hasFlags = false;
     while (reader.next()) {
         if (reader.code() == 70 && !hasFlags) {
-            readFlags(reader, record);
+            readTableFlags(reader, record);
             hasFlags = true;
         }
     }
@@ -70,7 +62,7 @@ void readLayer(RecordReader& reader, LayerMembers& layer)
             takeLayerColor(reader, layer, hasTrueColor);
             break;
         case 70: {
-            const int flags = readFlags(reader, layer);
+            const int flags = readTableFlags(reader, layer);
             layer.frozen = (flags & kFrozen) != 0;
             layer.locked = (flags & kLocked) != 0;
             break;
@@ -109,7 +101,7 @@ void readLinetype(RecordReader& reader, LinetypeMembers& linetype)
             linetype.dashes.push_back(reader.real());
             break;
         case 70:
-            readFlags(reader, linetype);
+            readTableFlags(reader, linetype);
             break;
         default:
             break;
@@ -134,7 +126,7 @@ void readTextStyle(RecordReader& reader, TextStyleMembers& style)
             style.obliquingAngle = reader.angle();
             break;
         case 70: {
-            const int flags = readFlags(reader, style);
+            const int flags = readTableFlags(reader, style);
             style.shapeFile = (flags & kShapeFile) != 0;
             style.vertical = (flags & kVertical) != 0;
             break;
@@ -159,7 +151,7 @@ void readUcs(RecordReader& reader, UCSMembers& ucs)
             ucs.yAxis = reader.vector();
             break;
         case 70:
-            readFlags(reader, ucs);
+            readTableFlags(reader, ucs);
             break;
         default:
             break;

@@ -1,5 +1,6 @@
 #include <runtime/resbuf.h>
 
+#include <algorithm>
 #include <cstring>
 #include <cwchar>
 
@@ -10,6 +11,20 @@ namespace {
 bool ownsBytes(short restype)
 {
     return restype == 1004 || (restype >= 310 && restype <= 319);
+}
+
+resbuf* copyOf(const resbuf& record)
+{
+    resbuf* copy = kdutNewRb(record.restype);
+    copy->resval = record.resval;
+    if (kdutIsText(record.restype)) {
+        copy->resval.rstring = kdutNewString(record.resval.rstring);
+    } else if (ownsBytes(record.restype) && record.resval.rbinary.buf) {
+        const auto size = static_cast<std::size_t>(std::max<short>(record.resval.rbinary.clen, 0));
+        copy->resval.rbinary.buf = static_cast<char*>(kdHeapAlloc(std::max<std::size_t>(size, 1)));
+        std::memcpy(copy->resval.rbinary.buf, record.resval.rbinary.buf, size);
+    }
+    return copy;
 }
 
 } // namespace
@@ -33,6 +48,17 @@ void kdutRelRb(resbuf* chain)
         kdHeapFree(chain);
         chain = next;
     }
+}
+
+resbuf* kdutCopyRb(const resbuf* first, const resbuf* end)
+{
+    resbuf* head = nullptr;
+    resbuf** next = &head;
+    for (; first && first != end; first = first->rbnext) {
+        *next = copyOf(*first);
+        next = &(*next)->rbnext;
+    }
+    return head;
 }
 
 wchar_t* kdutNewString(const wchar_t* text)

@@ -60,3 +60,11 @@ class KW_EXPORT KdDbSymbolTable : public KdDbObject
     std::vector<KdDbObjectId> m_records;
     std::unordered_map<KdString, KdDbObjectId, KdNameHash, KdNameEqual> m_byName;
 };
+
+/// A table whose records are of one class.
+#define KD_DB_SYMBOL_TABLE(Table, RecordClass)                                                     \
+    class KW_EXPORT Table : public KdDbSymbolTable                                                 \
+    {                                                                                              \
+        KD_RX_DECLARE(Table)                                                                       \
+        using Record = RecordClass;                                                                \
+    };

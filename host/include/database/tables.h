@@ -1,17 +1,9 @@
-/// The symbol tables of a drawing and their records, except blocks.
+/// The symbol tables of a drawing and their records, except blocks and dimension styles.
 #pragma once
 
 #include <database/color.h>
 #include <database/symbol_table.h>
 #include <geometry/point.h>
-
-/// A table whose records are of one class.
-#define KD_DB_SYMBOL_TABLE(Table, RecordClass)                                                     \
-    class KW_EXPORT Table : public KdDbSymbolTable                                                 \
-    {                                                                                              \
-        KD_RX_DECLARE(Table)                                                                       \
-        using Record = RecordClass;                                                                \
-    };
 
 struct KW_EXPORT LayerMembers : SymbolTableRecordMembers
 {
@@ -101,12 +93,6 @@ class KW_EXPORT KdDbUCSTableRecord : public KdDbSymbolTableRecord
     KdGeVector3d yAxis() const { return data().yAxis; }
 };
 KD_DB_SYMBOL_TABLE(KdDbUCSTable, KdDbUCSTableRecord)
-
-class KW_EXPORT KdDbDimStyleTableRecord : public KdDbSymbolTableRecord
-{
-    KD_RX_DECLARE(KdDbDimStyleTableRecord)
-};
-KD_DB_SYMBOL_TABLE(KdDbDimStyleTable, KdDbDimStyleTableRecord)
 
 class KW_EXPORT KdDbRegAppTableRecord : public KdDbSymbolTableRecord
 {

@@ -51,6 +51,9 @@ constexpr short RTLONG = 5010;
 KW_EXPORT resbuf* kdutNewRb(short restype);
 /// Frees a whole chain with its texts and blocks; null is allowed.
 KW_EXPORT void kdutRelRb(resbuf* chain);
+/// A copy of the records from `first` up to `end`, which is not among them, owned by the caller.
+/// Null if there are none.
+KW_EXPORT resbuf* kdutCopyRb(const resbuf* first, const resbuf* end);
 /// A copy of `text` that `kdutRelRb` may free; null stays null.
 KW_EXPORT wchar_t* kdutNewString(const wchar_t* text);
 /// Frees a text that `kdutNewString` or a system variable gave.
