@@ -1,13 +1,79 @@
 #include <entities/dimension.h>
 
+#include <algorithm>
+#include <cmath>
+#include <cwctype>
+
+#include <database/associativity.h>
+
 KD_RX_DEFINE_ABSTRACT(KdDbDimension, KdDbEntity, L"AcDbDimension")
-KD_RX_DEFINE(KdDbAlignedDimension, KdDbDimension, L"AcDbAlignedDimension", L"DIMENSION")
-KD_RX_DEFINE(KdDbRotatedDimension, KdDbDimension, L"AcDbRotatedDimension", L"DIMENSION")
-KD_RX_DEFINE(KdDb2LineAngularDimension, KdDbDimension, L"AcDb2LineAngularDimension", L"DIMENSION")
-KD_RX_DEFINE(KdDb3PointAngularDimension, KdDbDimension, L"AcDb3PointAngularDimension", L"DIMENSION")
-KD_RX_DEFINE(KdDbDiametricDimension, KdDbDimension, L"AcDbDiametricDimension", L"DIMENSION")
-KD_RX_DEFINE(KdDbOrdinateDimension, KdDbDimension, L"AcDbOrdinateDimension", L"DIMENSION")
-KD_RX_DEFINE(KdDbRadialDimension, KdDbDimension, L"AcDbRadialDimension", L"DIMENSION")
-KD_RX_DEFINE(KdDbArcDimension, KdDbDimension, L"AcDbArcDimension", L"ARC_DIMENSION")
-KD_RX_DEFINE(KdDbRadialDimensionLarge, KdDbDimension, L"AcDbRadialDimensionLarge",
-             L"LARGE_RADIAL_DIMENSION")
+
+namespace {
+
+/// The body that makes the dimension a constraint; the null id for a plain dimension.
+KdDbObjectId constraintBody(const KdDbDimension& dimension)
+{
+    KdArray<KdDbObjectId> dependencies;
+    KdDbAssocDependency::getDependenciesOnObject(&dimension, false, true, dependencies);
+    for (int i = 0; i < dependencies.length(); ++i) {
+        const OpenForRead<KdDbAssocDependency> dependency(dependencies[i]);
+        if (dependency &&
+            dependency->dependencyBody().isKindOf(KdDbAssocDimDependencyBodyBase::desc()))
+            return dependency->dependencyBody();
+    }
+    return {};
+}
+
+bool isPlainNumber(const KdString& expression)
+{
+    return std::ranges::none_of(expression.view(), [](wchar_t c) {
+        return std::iswalpha(static_cast<std::wint_t>(c)) || c == L'(' || c == L'*' || c == L'/';
+    });
+}
+
+bool hasExpressionOf(KdDbObjectId variable)
+{
+    const OpenForRead<KdDbAssocVariable> opened(variable);
+    return opened && !isPlainNumber(opened->expression());
+}
+
+} // namespace
+
+bool KdDbDimension::isPlanar() const
+{
+    return true;
+}
+
+KdErrorStatus KdDbDimension::measurement(double& value) const
+{
+    double measured = 0.0;
+    const KdErrorStatus status = measure(measured);
+    if (status != eOk)
+        return status;
+    if (!std::isfinite(measured)) // damaged drawings have such points
+        return eInvalidInput;
+    value = measured;
+    return eOk;
+}
+
+bool KdDbDimension::isConstraintObject() const
+{
+    return !constraintBody(*this).isNull();
+}
+
+bool KdDbDimension::isConstraintObject(bool& hasExpression, bool& isReference) const
+{
+    hasExpression = false;
+    isReference = false;
+    const KdDbObjectId id = constraintBody(*this);
+    if (const OpenForRead<KdDbAssocDimDependencyBodyBase> body(id); body) {
+        isReference = body->isReference();
+        hasExpression = hasExpressionOf(body->variable());
+    }
+    return !id.isNull();
+}
+
+bool KdDbDimension::isConstraintDynamic() const
+{
+    return isConstraintObject() && layer().compareNoCase(L"*ADSK_CONSTRAINTS") == 0;
+}

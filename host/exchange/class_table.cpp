@@ -76,6 +76,7 @@ struct AliasRow
 constexpr AliasRow kAliases[] = {
     {"3DLINE", L"AcDbLine"},
     {"MLEADER", L"AcDbMLeader"},
+    {"ACDBASSOCDIMDEPENDENCYBODY", L"AcDbAssocDimDependencyBody"},
     {"GEOPOSITIONMARKER", L"AcDbGeoPositionMarker"},
 };
 

@@ -26,6 +26,8 @@ constexpr MemberReaderRow memberReader()
 
 std::span<const MemberReaderRow> tableReaders();
 std::span<const MemberReaderRow> dimensionStyleReaders();
+std::span<const MemberReaderRow> dimensionReaders();
+std::span<const MemberReaderRow> associativityReaders();
 std::span<const MemberReaderRow> objectReaders();
 std::span<const MemberReaderRow> curveReaders();
 std::span<const MemberReaderRow> polylineReaders();

@@ -26,6 +26,9 @@ class ReaderMap
         for (const auto rows : {tableReaders(), dimensionStyleReaders(), objectReaders(),
                                 curveReaders(), polylineReaders(), meshReaders(), textReaders(),
                                 insertReaders(), viewportReaders(), proxyReaders()}) {
+             {tableReaders(), dimensionStyleReaders(), dimensionReaders(), associativityReaders(),
+              objectReaders(), curveReaders(), polylineReaders(), meshReaders(), textReaders(),
+              insertReaders(), viewportReaders(), proxyReaders()}) {
             for (const MemberReaderRow& row : rows)
                 m_readers.emplace(row.rxClass(), row.read);
         }

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <database/dimension_style.h>
+
 #include "made_drawing.h"
 
 namespace {

@@ -1,6 +1,7 @@
 /// Every entity class.
 #pragma once
 
+#include <entities/angular_dimensions.h>
 #include <entities/attribute.h>
 #include <entities/block_elements.h>
 #include <entities/block_reference.h>
@@ -18,6 +19,7 @@
 #include <entities/leader.h>
 #include <entities/light.h>
 #include <entities/line.h>
+#include <entities/linear_dimensions.h>
 #include <entities/mesh.h>
 #include <entities/mline.h>
 #include <entities/mtext.h>
@@ -27,6 +29,7 @@
 #include <entities/point_cloud.h>
 #include <entities/polyline.h>
 #include <entities/proxy_entity.h>
+#include <entities/radial_dimensions.h>
 #include <entities/ray.h>
 #include <entities/section.h>
 #include <entities/shape.h>
