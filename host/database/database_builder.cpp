@@ -89,15 +89,8 @@ void KdDbDatabaseBuilder::addStandardRecords()
     m_database.findOrAddRecord<KdDbLayerTable>(L"0");
     for (const wchar_t* name : {L"ByBlock", L"ByLayer", L"Continuous"})
         m_database.findOrAddRecord<KdDbLinetypeTable>(name);
-    const KdDbObjectId textStyle = m_database.findOrAddRecord<KdDbTextStyleTable>(L"Standard");
-    const KdDbObjectId style = m_database.findOrAddRecord<KdDbDimStyleTable>(L"Standard");
-    KdDbDimStyleTableRecord* record = nullptr;
-    if (kddbOpenObject(record, style) == eOk) {
-        auto& members = static_cast<DimStyleMembers&>(membersForFilling(*record));
-        if (!members.variables.has(KdDbDimVar::dimtxsty))
-            members.variables.set(KdDbDimVar::dimtxsty, textStyle);
-        record->close();
-    }
+    m_database.findOrAddRecord<KdDbTextStyleTable>(L"Standard");
+    m_database.findOrAddRecord<KdDbDimStyleTable>(L"Standard");
     m_database.findOrAddRecord<KdDbRegAppTable>(L"ACAD");
 }
 

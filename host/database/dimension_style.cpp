@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include <database/block_table.h>
+#include <database/database.h>
 
 KD_RX_DEFINE(KdDbDimStyleTable, KdDbSymbolTable, L"AcDbDimStyleTable", L"TABLE")
 KD_RX_DEFINE(KdDbDimStyleTableRecord, KdDbSymbolTableRecord, L"AcDbDimStyleTableRecord",
@@ -29,8 +29,19 @@ DimStyleMembers& KdDbDimStyleTableRecord::edit()
 
 const KdDbDimValue& KdDbDimStyleTableRecord::dimensionVariable(KdDbDimVar variable) const
 {
-    const KdDbDimValue* value = data().variables.find(variable);
-    return value ? *value : kddbDimVariable(variable).initial;
+    const KdDbDimValue* found = data().variables.find(variable);
+    const KdDbDimValue& value = found ? *found : kddbDimVariable(variable).initial;
+    if (variable == KdDbDimVar::dimtxsty && std::get<KdDbObjectId>(value).isNull())
+        return standardTextStyle();
+    return value;
+}
+
+const KdDbDimValue& KdDbDimStyleTableRecord::standardTextStyle() const
+{
+    KdDbObjectId style;
+    if (database())
+        database()->table<KdDbTextStyleTable>().getIdAt(L"Standard", style);
+    return m_standardTextStyle = style;
 }
 
 resbuf* KdDbDimStyleTableRecord::xData(const wchar_t* application) const

@@ -52,10 +52,13 @@ std::optional<KdDbDimVar> kddbDimVariableOfCode(int code)
     return found == byCode.end() ? std::nullopt : std::optional(found->second);
 }
 
-KdDbDimValue kddbDimColor(int index)
+KdDbDimValue kddbDimColor(int number)
 {
+    const KdCmColor asWord(static_cast<std::uint32_t>(number));
+    if (asWord.colorMethod() >= KdCmColor::kByLayer && asWord.colorMethod() <= KdCmColor::kNone)
+        return std::int32_t{number};
     KdCmColor color;
-    color.setColorIndex(index); // stays by layer for a number out of range
+    color.setColorIndex(number); // stays by layer for a number out of range
     return static_cast<std::int32_t>(color.color());
 }
 

@@ -72,6 +72,16 @@ KdErrorStatus KdDb2LineAngularDimension::measure(double& value) const
     return eOk;
 }
 
+bool KdDb2LineAngularDimension::measuresAngle() const
+{
+    return true;
+}
+
+bool KdDb3PointAngularDimension::measuresAngle() const
+{
+    return true;
+}
+
 KdErrorStatus KdDb3PointAngularDimension::measure(double& value) const
 {
     return sectorAngle(data(), value);

@@ -5,6 +5,7 @@
 #include <cwctype>
 
 #include <database/associativity.h>
+#include <database/database.h>
 
 KD_RX_DEFINE_ABSTRACT(KdDbDimension, KdDbEntity, L"AcDbDimension")
 
@@ -22,6 +23,15 @@ KdDbObjectId constraintBody(const KdDbDimension& dimension)
             return dependency->dependencyBody();
     }
     return {};
+}
+
+bool isOnSheet(const KdDbDimension& dimension)
+{
+    const KdDbObjectId block = dimension.blockId();
+    if (!block.isKindOf(KdDbBlockTableRecord::desc()) || block == block.database()->modelSpaceId())
+        return false;
+    const OpenForRead<KdDbBlockTableRecord> record(block);
+    return record && record->isLayout();
 }
 
 bool isPlainNumber(const KdString& expression)
@@ -50,10 +60,25 @@ KdErrorStatus KdDbDimension::measurement(double& value) const
     const KdErrorStatus status = measure(measured);
     if (status != eOk)
         return status;
+    if (!measuresAngle())
+        measured *= lengthFactor();
     if (!std::isfinite(measured)) // damaged drawings have such points
         return eInvalidInput;
     value = measured;
     return eOk;
+}
+
+bool KdDbDimension::measuresAngle() const
+{
+    return false;
+}
+
+double KdDbDimension::lengthFactor() const
+{
+    const double factor = dimlfac();
+    if (factor >= 0.0)
+        return factor;
+    return isOnSheet(*this) ? -factor : 1.0;
 }
 
 bool KdDbDimension::isConstraintObject() const

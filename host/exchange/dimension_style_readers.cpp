@@ -18,10 +18,6 @@ void readDimStyle(RecordReader& reader, DimStyleMembers& style)
         }
     }
     takeApplicationVariables(reader, style.variables);
-    KdDbDimValues& values = style.variables;
-    if (!values.has(KdDbDimVar::dimtxsty))
-        values.set(KdDbDimVar::dimtxsty,
-                   reader.source().database.findOrAddRecord<KdDbTextStyleTable>(L"Standard"));
 }
 
 constexpr MemberReaderRow kRows[] = {

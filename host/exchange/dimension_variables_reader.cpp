@@ -161,7 +161,10 @@ void takeOverride(RecordReader& reader, int code, const resbuf& value, KdDbDimVa
     if (const auto arrow = namedArrowOfCode(code); arrow && value.restype == 1000) {
         values.set(*arrow, arrowBlock(database, value.resval.rstring));
     } else if (const auto variable = kddbDimVariableOfCode(code)) {
-        if (auto taken = valueIn(database, value, kddbDimVariable(*variable).kind))
+        auto taken = valueIn(database, value, kddbDimVariable(*variable).kind);
+        const bool isNoStyle =
+            *variable == KdDbDimVar::dimtxsty && taken == KdDbDimValue(KdDbObjectId());
+        if (taken && !isNoStyle)
             values.set(*variable, std::move(*taken));
     } else if (isOld(reader) && value.restype == 1070) {
         if (code == kOldUnit)

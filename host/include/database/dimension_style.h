@@ -17,6 +17,7 @@ class KW_EXPORT KdDbDimStyleTableRecord : public KdDbSymbolTableRecord
 
     DimStyleMembers& edit();
 
+    /// A style that names no text style, as in old drawings, uses the one called "Standard".
     const KdDbDimValue& dimensionVariable(KdDbDimVar variable) const;
     KD_DB_DIM_ACCESSORS
 
@@ -25,6 +26,9 @@ class KW_EXPORT KdDbDimStyleTableRecord : public KdDbSymbolTableRecord
     resbuf* xData(const wchar_t* application) const;
 
   private:
+    const KdDbDimValue& standardTextStyle() const;
+
+    mutable KdDbDimValue m_standardTextStyle;
     mutable std::vector<ResbufChain> m_xData; ///< the lists that were asked for
 };
 KD_DB_SYMBOL_TABLE(KdDbDimStyleTable, KdDbDimStyleTableRecord)

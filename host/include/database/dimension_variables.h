@@ -141,8 +141,9 @@ inline const KdDbDimVariable& kddbDimVariable(KdDbDimVar variable)
 }
 /// The variable of a group code.
 KW_EXPORT std::optional<KdDbDimVar> kddbDimVariableOfCode(int code);
-/// A colour, by its index, in the form in which values hold it. Other numbers count as by layer.
-KW_EXPORT KdDbDimValue kddbDimColor(int index);
+/// A colour in the form in which values hold it, by its index, or by the word of a `KdCmColor`,
+/// which some programs write instead. Other numbers count as by layer.
+KW_EXPORT KdDbDimValue kddbDimColor(int number);
 
 /// Values of some variables. Takes little room while there are none.
 class KW_EXPORT KdDbDimValues

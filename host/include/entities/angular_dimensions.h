@@ -27,6 +27,7 @@ class KW_EXPORT KdDb2LineAngularDimension : public KdDbDimension
 
   protected:
     KdErrorStatus measure(double& value) const override;
+    bool measuresAngle() const override;
 };
 
 struct KW_EXPORT ThreePointAngularDimensionMembers : DimensionMembers
@@ -51,6 +52,7 @@ class KW_EXPORT KdDb3PointAngularDimension : public KdDbDimension
 
   protected:
     KdErrorStatus measure(double& value) const override;
+    bool measuresAngle() const override;
 };
 
 struct KW_EXPORT ArcDimensionMembers : ThreePointAngularDimensionMembers

@@ -38,8 +38,9 @@ class KW_EXPORT KdDbDimension : public KdDbEntity
     const KdString& dimensionText() const { return data().text; }
     KdDbObjectId dimBlockId() const { return data().block; }
 
-    /// What the dimension measures, from its points: a length in drawing units without DIMLFAC, or
-    /// an angle in radians. `eInvalidInput`, `value` untouched, where the points give none.
+    /// What the dimension measures, from its points: a length in drawing units times DIMLFAC, of
+    /// which a negative one counts on sheets alone, or an angle in radians. `eInvalidInput`,
+    /// `value` untouched, where the points give none.
     KdErrorStatus measurement(double& value) const;
 
     /// True if the dimension is the face of a dimensional constraint.
@@ -53,6 +54,11 @@ class KW_EXPORT KdDbDimension : public KdDbEntity
     bool isConstraintDynamic() const;
 
   protected:
-    /// The measurement of the kind; see `measurement`.
+    /// The measurement of the kind, before any factor; see `measurement`.
     virtual KdErrorStatus measure(double& value) const = 0;
+    /// True if that is an angle. Here: false.
+    virtual bool measuresAngle() const;
+
+  private:
+    double lengthFactor() const;
 };
