@@ -1,8 +1,28 @@
 #include <providers/property_row.h>
 
+#include <functional>
+
 #include <platform/resources.h>
 
 #include <values/resource_string.h>
+
+namespace {
+
+/// True if `equal` finds `other` to be the text. The library's own text serves as it lies; only a
+/// missing one takes the loud way.
+template <class Equal>
+bool isText(const ResourceText& text, const KdString& other, Equal equal)
+{
+    const wchar_t* stored = nullptr;
+    const int length = LoadStringW(AfxGetResourceHandle(), static_cast<unsigned>(text.id),
+                                   reinterpret_cast<wchar_t*>(&stored), 0);
+    if (length > 0)
+        return equal(other.view(), std::wstring_view(stored, static_cast<std::size_t>(length)));
+    __ResourceString substitute(text.id, text.defaultText, nullptr);
+    return equal(other.view(), std::wstring_view(static_cast<const wchar_t*>(substitute)));
+}
+
+} // namespace
 
 KdString ResourceText::text() const
 {
@@ -11,14 +31,12 @@ KdString ResourceText::text() const
 
 bool ResourceText::matches(const KdString& other) const
 {
-    // The library's own text serves as it lies; only a missing one takes the loud way.
-    const wchar_t* stored = nullptr;
-    const int length = LoadStringW(AfxGetResourceHandle(), static_cast<unsigned>(id),
-                                   reinterpret_cast<wchar_t*>(&stored), 0);
-    if (length > 0)
-        return other.view() == std::wstring_view(stored, static_cast<std::size_t>(length));
-    return other.compare(static_cast<const wchar_t*>(__ResourceString(id, defaultText, nullptr))) ==
-           0;
+    return isText(*this, other, std::equal_to<>());
+}
+
+bool ResourceText::matchesNoCase(const KdString& other) const
+{
+    return isText(*this, other, KdNameEqual());
 }
 
 void listRows(std::span<const PropertyRow> rows, const KdDbEntity* entity, KdArray<KdString>& names,

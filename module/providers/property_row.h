@@ -17,6 +17,8 @@ struct ResourceText
     KdString text() const;
     /// True if `other` is this text, letter by letter. Allocates nothing.
     bool matches(const KdString& other) const;
+    /// The same, whatever the case of the letters.
+    bool matchesNoCase(const KdString& other) const;
 };
 
 /// What a caller of `PropertyValueGet` wants.
