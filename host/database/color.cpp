@@ -53,6 +53,16 @@ void KdCmColor::setNames(const KdString& colorName, const KdString& bookName)
     m_bookName = bookName;
 }
 
+void KdCmColor::setNames(const KdString& fullName)
+{
+    const int separator = fullName.findOneOf(L"$");
+    const auto length = static_cast<std::size_t>(separator);
+    if (separator < 0)
+        setNames(fullName, {});
+    else
+        setNames(fullName.substr(length + 1), fullName.substr(0, length));
+}
+
 KdCmTransparency KdCmTransparency::fromWord(std::uint32_t word)
 {
     constexpr std::uint32_t kWordByBlock = 0x01000000;

@@ -35,15 +35,8 @@ KdString KdDbEntity::layer() const
 KdCmColor KdDbEntity::color() const
 {
     KdCmColor color(data().color);
-    const KdString& name = data().colorName;
-    if (!name.isEmpty()) {
-        const int separator = name.findOneOf(L"$");
-        const auto length = static_cast<std::size_t>(separator);
-        if (separator < 0)
-            color.setNames(name, {});
-        else
-            color.setNames(name.substr(length + 1), name.substr(0, length));
-    }
+    if (!data().colorName.isEmpty())
+        color.setNames(data().colorName);
     return color;
 }
 

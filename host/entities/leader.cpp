@@ -1,4 +1,3 @@
 #include <entities/leader.h>
 
 KD_RX_DEFINE(KdDbLeader, KdDbCurve, L"AcDbLeader", L"LEADER")
-KD_RX_DEFINE(KdDbMLeader, KdDbEntity, L"AcDbMLeader", L"MULTILEADER")

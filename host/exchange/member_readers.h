@@ -34,6 +34,8 @@ std::span<const MemberReaderRow> polylineReaders();
 std::span<const MemberReaderRow> splineReaders();
 std::span<const MemberReaderRow> meshReaders();
 std::span<const MemberReaderRow> textReaders();
+std::span<const MemberReaderRow> mtextReaders();
+std::span<const MemberReaderRow> mleaderReaders();
 std::span<const MemberReaderRow> insertReaders();
 std::span<const MemberReaderRow> viewportReaders();
 std::span<const MemberReaderRow> proxyReaders();

@@ -29,6 +29,9 @@ class ReaderMap
              {tableReaders(), dimensionStyleReaders(), dimensionReaders(), associativityReaders(),
               objectReaders(), curveReaders(), polylineReaders(), meshReaders(), textReaders(),
               insertReaders(), viewportReaders(), proxyReaders()}) {
+        for (const auto rows : {tableReaders(), objectReaders(), curveReaders(), polylineReaders(),
+                                meshReaders(), textReaders(), mtextReaders(), mleaderReaders(),
+                                insertReaders(), viewportReaders(), proxyReaders()}) {
             for (const MemberReaderRow& row : rows)
                 m_readers.emplace(row.rxClass(), row.read);
         }

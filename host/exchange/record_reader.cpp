@@ -72,7 +72,10 @@ bool RecordReader::next()
             m_subclass = trimmed(m_group.text);
             continue;
         case 101:
-            skipEmbeddedObject();
+            if (m_includesEmbedded)
+                m_isEmbedded = true;
+            else
+                skipEmbeddedObject();
             continue;
         case 102:
             readApplicationGroup();
@@ -84,7 +87,7 @@ bool RecordReader::next()
         default:
             break;
         }
-        if (!m_entity || !takeGeneral())
+        if (!m_entity || m_isEmbedded || !takeGeneral())
             return true;
     }
     return false;

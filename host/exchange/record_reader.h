@@ -13,7 +13,7 @@ namespace dxf {
 
 /// Walks the groups of a record. What every object or entity may have (extension dictionary,
 /// extended data, colour and the other general properties) goes into its record on the way; groups
-/// of embedded objects and previews are left out. The rest is the reader's:
+/// of embedded objects (unless asked for) and previews are left out. The rest is the reader's:
 ///
 ///     while (reader.next()) {
 ///         switch (reader.code()) {
@@ -31,6 +31,10 @@ class RecordReader
     bool next();
     /// Reads the rest for what all objects have.
     void skipRest();
+    /// From now on `next` steps to the groups of embedded objects, too.
+    void includeEmbeddedObjects() { m_includesEmbedded = true; }
+    /// True in the groups of an embedded object, which go on to the end of the record.
+    bool isEmbedded() const { return m_isEmbedded; }
 
     int code() const { return m_group.code; }
     const Group& group() const { return m_group; }
@@ -88,6 +92,8 @@ class RecordReader
     double m_elevation = 0.0;
     bool m_steppedBack = false;
     bool m_hasTrueColor = false;
+    bool m_includesEmbedded = false;
+    bool m_isEmbedded = false;
 };
 
 /// The word of a colour by its index; values out of range count as by layer.

@@ -1,9 +1,11 @@
-// Single-line texts, attributes and their definitions.
+// Single-line texts, attributes and their definitions, and shapes.
 #include <entities/attribute.h>
+#include <entities/shape.h>
 #include <entities/text.h>
 
 #include "extrusion_reader.h"
 #include "member_readers.h"
+#include "mtext_reader.h"
 
 namespace dxf {
 namespace {
@@ -68,7 +70,7 @@ KdDb::TextVerticalMode verticalMode(RecordReader& reader)
 void takeStandardStyle(RecordReader& reader, TextMembers& text)
 {
     if (text.style.isNull())
-        reader.source().database.table<KdDbTextStyleTable>().getIdAt(L"Standard", text.style);
+        text.style = standardTextStyle(reader.source());
 }
 
 void readText(RecordReader& reader, TextMembers& text)
@@ -128,43 +130,138 @@ void takeOldLock(const KdDbObject& object, AttributeMembers& attribute)
         attribute.mode.positionLocked = record->rbnext->resval.rint != 0;
 }
 
-/// True from the group on that tells how many lines the text has. What follows repeats codes of the
-/// text for its first line. Without markers the code is the text's own.
-bool isAboutLines(const RecordReader& reader)
+/// The lines of an attribute that has several: embedded in the record since R2018, before that in
+/// a record of the dictionary that extends it.
+class AttributeLines
 {
-    const bool ownPart = reader.isIn("AcDbAttribute") || reader.isIn("AcDbAttributeDefinition");
-    return ownPart && reader.code() == 71;
-}
+  public:
+    explicit AttributeLines(AttributeMembers& attribute) : m_attribute(attribute) {}
 
-void finishAttribute(RecordReader& reader, AttributeMembers& attribute)
+    /// Takes the group if it is embedded or tells of the lines. What follows the latter repeats
+    /// codes of the text for its first line.
+    bool take(RecordReader& reader)
+    {
+        if (reader.isEmbedded()) {
+            text().take(reader);
+            return true;
+        }
+        const bool isOwnPart =
+            reader.isIn("AcDbAttribute") || reader.isIn("AcDbAttributeDefinition");
+        // without markers the code is the text's own
+        m_isBehindCount = m_isBehindCount || (isOwnPart && reader.code() == 71);
+        return m_isBehindCount;
+    }
+
+    /// To be called behind the last group.
+    void finish(RecordReader& reader)
+    {
+        if (!m_text)
+            takeExtension(reader);
+        if (m_text) {
+            if (m_attribute.lines->edit().style.isNull())
+                m_attribute.lines->edit().style = m_attribute.style;
+            m_text->finish(reader);
+        }
+    }
+
+  private:
+    MTextReader& text()
+    {
+        if (!m_text) {
+            m_attribute.lines = std::make_unique<KdDbMText>();
+            m_text.emplace(m_attribute.lines->edit());
+        }
+        return *m_text;
+    }
+
+    void takeExtension(RecordReader& reader)
+    {
+        const KdDbObjectId id = kddbExtensionEntry(reader.object(), L"ACAD_MLATT");
+        const OpenForRead<KdDbObject> record(id);
+        if (!record || record->source().length == 0)
+            return;
+        ObjectMembers ignored;
+        RecordReader groups(reader.source(), *record, record->source(), ignored);
+        bool isInText = false;
+        while (groups.next()) {
+            if (isInText)
+                text().take(groups);
+            else
+                isInText = groups.code() == 1; // says what follows
+        }
+    }
+
+    AttributeMembers& m_attribute;
+    std::optional<MTextReader> m_text;
+    bool m_isBehindCount = false;
+};
+
+void finishAttribute(RecordReader& reader, AttributeLines& lines, AttributeMembers& attribute)
 {
-    reader.skipRest();
     takeStandardStyle(reader, attribute);
     takeOldLock(reader.object(), attribute);
+    lines.finish(reader);
 }
 
 void readAttribute(RecordReader& reader, AttributeMembers& attribute)
 {
-    while (reader.next() && !isAboutLines(reader))
-        takeAttribute(reader, attribute);
-    finishAttribute(reader, attribute);
+    AttributeLines lines(attribute);
+    reader.includeEmbeddedObjects();
+    while (reader.next()) {
+        if (!lines.take(reader))
+            takeAttribute(reader, attribute);
+    }
+    finishAttribute(reader, lines, attribute);
 }
 
 void readAttributeDefinition(RecordReader& reader, AttributeDefinitionMembers& definition)
 {
-    while (reader.next() && !isAboutLines(reader)) {
+    AttributeLines lines(definition);
+    reader.includeEmbeddedObjects();
+    while (reader.next()) {
+        if (lines.take(reader))
+            continue;
         if (reader.code() == 3)
             definition.prompt = reader.text();
         else
             takeAttribute(reader, definition);
     }
-    finishAttribute(reader, definition);
+    finishAttribute(reader, lines, definition);
+}
+
+void readShape(RecordReader& reader, ShapeMembers& shape)
+{
+    while (reader.next()) {
+        switch (reader.code()) {
+        case 2:
+            shape.name = reader.text();
+            break;
+        case 10:
+            shape.position = reader.point();
+            break;
+        case 40:
+            shape.size = reader.real();
+            break;
+        case 41:
+            shape.widthFactor = reader.real();
+            break;
+        case 50:
+            shape.rotation = reader.angle();
+            break;
+        case 51:
+            shape.oblique = reader.angle();
+            break;
+        default:
+            takeExtrusion(reader, shape.extrusion);
+        }
+    }
 }
 
 constexpr MemberReaderRow kRows[] = {
     memberReader<KdDbText, TextMembers, readText>(),
     memberReader<KdDbAttribute, AttributeMembers, readAttribute>(),
     memberReader<KdDbAttributeDefinition, AttributeDefinitionMembers, readAttributeDefinition>(),
+    memberReader<KdDbShape, ShapeMembers, readShape>(),
 };
 
 } // namespace

@@ -49,6 +49,8 @@ class KW_EXPORT KdCmColor
     const KdString& colorName() const { return m_colorName; }
     const KdString& bookName() const { return m_bookName; }
     void setNames(const KdString& colorName, const KdString& bookName);
+    /// Takes both as drawings have them: "BOOK$COLOR", or a colour's name alone.
+    void setNames(const KdString& fullName);
 
     bool operator==(const KdCmColor& other) const { return color() == other.color(); }
 

@@ -21,6 +21,7 @@
 #include <entities/line.h>
 #include <entities/linear_dimensions.h>
 #include <entities/mesh.h>
+#include <entities/mleader.h>
 #include <entities/mline.h>
 #include <entities/mtext.h>
 #include <entities/ole_frame.h>

@@ -1,6 +1,9 @@
 /// Attributes of block references and their definitions.
 #pragma once
 
+#include <memory>
+
+#include <entities/mtext.h>
 #include <entities/text.h>
 
 struct KW_EXPORT AttributeMembers : TextMembers
@@ -17,6 +20,8 @@ struct KW_EXPORT AttributeMembers : TextMembers
     KdString tag;
     std::int16_t fieldLength = 0;
     Mode mode;
+    /// Of an attribute with several lines, which the text itself can't hold; null for a single one.
+    std::unique_ptr<KdDbMText> lines;
 };
 
 /// What attributes and their definitions share; no runtime class of its own.
@@ -33,12 +38,19 @@ class KW_EXPORT KdDbAttributeText : public KdDbText
     bool isVerifiable() const { return data().mode.verify; }
     bool isPreset() const { return data().mode.preset; }
     bool lockPositionInBlock() const { return data().mode.positionLocked; }
+
+    /// The box around all lines of one that has several.
+    KdErrorStatus getGeomExtents(KdGeExtents3d& extents) const override;
 };
 
 /// The text that fills an attribute of one block reference.
 class KW_EXPORT KdDbAttribute : public KdDbAttributeText
 {
     KD_RX_DECLARE(KdDbAttribute)
+
+    bool isMTextAttribute() const { return data().lines != nullptr; }
+    /// The text of several lines, or null; it belongs to the attribute.
+    const KdDbMText* getMTextAttributeConst() const { return data().lines.get(); }
 };
 
 struct KW_EXPORT AttributeDefinitionMembers : AttributeMembers
@@ -53,4 +65,11 @@ class KW_EXPORT KdDbAttributeDefinition : public KdDbAttributeText
     KD_DB_MEMBERS(AttributeDefinitionMembers)
 
     const KdString& prompt() const { return data().prompt; }
+    bool isMTextAttributeDefinition() const { return data().lines != nullptr; }
+    /// The text of several lines that references begin with, or null; it belongs to the definition.
+    const KdDbMText* getMTextAttributeDefinitionConst() const { return data().lines.get(); }
+
+  protected:
+    /// The tag stands where the value of a reference is going to stand, unless that can't differ.
+    const KdString& shownText() const override { return isConstant() ? textString() : tag(); }
 };

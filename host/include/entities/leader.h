@@ -1,7 +1,6 @@
-/// Leaders of both kinds.
+/// Leaders.
 #pragma once
 
 #include <entities/curve.h>
 
 KD_DB_PLAIN_ENTITY(KdDbLeader, KdDbCurve)
-KD_DB_PLAIN_ENTITY(KdDbMLeader, KdDbEntity)
