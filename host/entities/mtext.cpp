@@ -1,10 +1,7 @@
 #include <entities/mtext.h>
 
-#include <cmath>
-
-#include <geometry/matrix.h>
-
 #include "mtext_layout.h"
+#include "text_box.h"
 
 KD_RX_DEFINE(KdDbMText, KdDbEntity, L"AcDbMText", L"MTEXT")
 
@@ -72,18 +69,12 @@ KdString KdDbMText::text() const
 
 KdGeVector3d KdDbMText::normal() const
 {
-    const KdGeVector3d normal = data().normal.normal();
-    return normal == KdGeVector3d{} ? KdGeVector3d::kZAxis : normal;
+    return unitNormal(data().normal);
 }
 
 KdGeVector3d KdDbMText::direction() const
 {
-    // Only the part that lies in the plane counts.
-    const KdGeVector3d z = normal();
-    const KdGeVector3d across = z.crossProduct(data().direction).normal();
-    if (across == KdGeVector3d{})
-        return KdGeMatrix3d::planeToWorld(z) * KdGeVector3d::kXAxis;
-    return across.crossProduct(z);
+    return unitDirection(data().direction, normal());
 }
 
 double KdDbMText::rotation() const
@@ -113,14 +104,10 @@ KdErrorStatus KdDbMText::getBackgroundFillColor(KdCmColor& color) const
 KdErrorStatus KdDbMText::getBoundingPoints(KdArray<KdGePoint3d>& points) const
 {
     const MTextSize size = sizeOf(data());
-    const KdGeVector3d right = direction();
-    const KdGeVector3d down = right.crossProduct(normal());
     const double left = -shareBefore(columnOf(attachment())) * size.width;
-    const double top = -shareBefore(rowOf(attachment())) * size.height;
-    for (const double y : {top, top + size.height}) {
-        for (const double x : {left, left + size.width})
-            points.append(location() + right * x + down * y);
-    }
+    const double top = shareBefore(rowOf(attachment())) * size.height;
+    appendCorners({left, left + size.width, top - size.height, top}, location(), direction(),
+                  normal(), points);
     return eOk;
 }
 
@@ -130,9 +117,6 @@ KdErrorStatus KdDbMText::getGeomExtents(KdGeExtents3d& extents) const
         return eNotApplicable;
     KdArray<KdGePoint3d> corners;
     getBoundingPoints(corners);
-    KdGeExtents3d box;
-    for (int i = 0; i < corners.length(); ++i)
-        box.addPoint(corners[i]);
-    extents = box;
+    extents = extentsOf(corners);
     return eOk;
 }

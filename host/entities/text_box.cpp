@@ -29,3 +29,35 @@ KdGeExtents3d placedExtents(const TextBox& box, const TextPlacement& placement,
     }
     return extents;
 }
+
+KdGeVector3d unitNormal(const KdGeVector3d& normal)
+{
+    const KdGeVector3d unit = normal.normal();
+    return unit == KdGeVector3d{} ? KdGeVector3d::kZAxis : unit;
+}
+
+KdGeVector3d unitDirection(const KdGeVector3d& direction, const KdGeVector3d& normal)
+{
+    const KdGeVector3d across = normal.crossProduct(direction).normal();
+    if (across == KdGeVector3d{})
+        return KdGeMatrix3d::planeToWorld(normal) * KdGeVector3d::kXAxis;
+    return across.crossProduct(normal);
+}
+
+void appendCorners(const TextBox& box, const KdGePoint3d& origin, const KdGeVector3d& right,
+                   const KdGeVector3d& normal, KdArray<KdGePoint3d>& corners)
+{
+    const KdGeVector3d up = normal.crossProduct(right);
+    for (const double y : {box.top, box.bottom}) {
+        for (const double x : {box.left, box.right})
+            corners.append(origin + right * x + up * y);
+    }
+}
+
+KdGeExtents3d extentsOf(const KdArray<KdGePoint3d>& points)
+{
+    KdGeExtents3d extents;
+    for (int i = 0; i < points.length(); ++i)
+        extents.addPoint(points[i]);
+    return extents;
+}

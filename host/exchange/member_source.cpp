@@ -32,6 +32,9 @@ class ReaderMap
         for (const auto rows : {tableReaders(), objectReaders(), curveReaders(), polylineReaders(),
                                 meshReaders(), textReaders(), mtextReaders(), mleaderReaders(),
                                 insertReaders(), viewportReaders(), proxyReaders()}) {
+             {tableReaders(), dimensionStyleReaders(), objectReaders(), curveReaders(),
+              polylineReaders(), meshReaders(), textReaders(), mtextReaders(), leaderReaders(),
+              mleaderReaders(), insertReaders(), viewportReaders(), proxyReaders()}) {
             for (const MemberReaderRow& row : rows)
                 m_readers.emplace(row.rxClass(), row.read);
         }
