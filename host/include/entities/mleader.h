@@ -138,6 +138,8 @@ class KW_EXPORT KdDbMLeader : public KdDbEntity
     bool enableFrameText() const { return data().textFrame; }
     /// The block that is the content; the null id if the content is none.
     KdDbObjectId blockContentId() const;
+    /// That block and its attributes, or null; it belongs to the entity.
+    const MLeaderMembers::Block* blockContent() const { return data().block.get(); }
     /// The leaders, which belong to the entity.
     const std::vector<MLeaderMembers::Branch>& branches() const { return data().branches; }
 
