@@ -37,6 +37,7 @@ std::span<const MemberReaderRow> textReaders();
 std::span<const MemberReaderRow> mtextReaders();
 std::span<const MemberReaderRow> mleaderReaders();
 std::span<const MemberReaderRow> insertReaders();
+std::span<const MemberReaderRow> hatchReaders();
 std::span<const MemberReaderRow> viewportReaders();
 std::span<const MemberReaderRow> proxyReaders();
 

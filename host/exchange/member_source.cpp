@@ -35,6 +35,8 @@ class ReaderMap
              {tableReaders(), dimensionStyleReaders(), objectReaders(), curveReaders(),
               polylineReaders(), meshReaders(), textReaders(), mtextReaders(), leaderReaders(),
               mleaderReaders(), insertReaders(), viewportReaders(), proxyReaders()}) {
+             {tableReaders(), objectReaders(), curveReaders(), polylineReaders(), meshReaders(),
+              textReaders(), insertReaders(), hatchReaders(), viewportReaders(), proxyReaders()}) {
             for (const MemberReaderRow& row : rows)
                 m_readers.emplace(row.rxClass(), row.read);
         }

@@ -10,7 +10,6 @@ KW_CLASS_CHECKED_PROVIDER(KdDb3dSolid_Extension, KdDbEntity_Extension, KdDb3dSol
 KW_CLASS_CHECKED_PROVIDER(KdDbFace_Extension, KdDbEntity_Extension, KdDbFace)
 KW_CLASS_CHECKED_PROVIDER(KdDbGeoPositionMarker_Extension, KdDbEntity_Extension,
                           KdDbGeoPositionMarker)
-KW_CLASS_CHECKED_PROVIDER(KdDbHatch_Extension, KdDbEntity_Extension, KdDbHatch)
 KW_CLASS_CHECKED_PROVIDER(KdDbLight_Extension, KdDbEntity_Extension, KdDbLight)
 KW_CLASS_CHECKED_PROVIDER(KdDbMline_Extension, KdDbEntity_Extension, KdDbMline)
 KW_CLASS_CHECKED_PROVIDER(KdDbOleFrame_Extension, KdDbEntity_Extension, KdDbOleFrame)
@@ -25,6 +24,5 @@ KW_CLASS_CHECKED_PROVIDER(KdDbRevolvedSurface_Extension, KdDbEntity_Extension, K
 KW_CLASS_CHECKED_PROVIDER(KdDbSection_Extension, KdDbEntity_Extension, KdDbSection)
 KW_CLASS_CHECKED_PROVIDER(KdDbSolid_Extension, KdDbEntity_Extension, KdDbSolid)
 KW_CLASS_CHECKED_PROVIDER(KdDbTrace_Extension, KdDbEntity_Extension, KdDbTrace)
-KW_CLASS_CHECKED_PROVIDER(KdDbViewport_Extension, KdDbEntity_Extension, KdDbViewport)
 
 KW_CLASS_CHECKED_PROVIDER(KdDbWipeout_Extension, KdDbRasterImage_Extension, KdDbWipeout)
