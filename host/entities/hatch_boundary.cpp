@@ -15,7 +15,11 @@ std::optional<KdGePoint2d> anyPointOf(const HatchEdge& edge)
     if (const auto* arc = std::get_if<HatchArcEdge>(&edge))
         return arc->center;
     const auto& spline = std::get<HatchSplineEdge>(edge);
-    return spline.controlPoints.empty() ? std::nullopt : std::optional(spline.controlPoints[0]);
+    for (const auto* points : {&spline.controlPoints, &spline.fitPoints}) {
+        if (!points->empty())
+            return points->front();
+    }
+    return std::nullopt;
 }
 
 KdGePoint2d placeOf(const HatchContent& hatch)
@@ -68,17 +72,14 @@ class CurveMaker
 
     void addSide(const KdGePoint2d& start, const KdGePoint2d& end, double bulge)
     {
-        constexpr double kStraight = 1e-10;
+        constexpr double kStraight = 1e-12;
         if (std::abs(bulge) < kStraight || start == end)
             return addLine(start, end);
         // From the middle of the chord to the center, across the chord and in lengths of it.
         const double way = (1.0 - bulge * bulge) / (4.0 * bulge);
         const KdGeVector2d chord = end - start;
-        const KdGePoint2d center{start.x + chord.x / 2.0 - chord.y * way,
-                                 start.y + chord.y / 2.0 + chord.x * way};
-        const KdGeVector2d arm = start - center;
-        m_curves.emplace_back(
-            plane::Arc{center, arm, {-arm.y, arm.x}, 0.0, 4.0 * std::atan(bulge)});
+        const KdGeVector2d arm{chord.y * way - chord.x / 2.0, -chord.x * way - chord.y / 2.0};
+        m_curves.emplace_back(plane::Arc{start, arm, {-arm.y, arm.x}, 0.0, 4.0 * std::atan(bulge)});
     }
 
     void add(const HatchLineEdge& edge) { addLine(local(edge.start), local(edge.end)); }
@@ -87,17 +88,36 @@ class CurveMaker
     {
         const KdGeVector2d& major = edge.majorAxis;
         const double ratio = edge.radiusRatio;
-        m_curves.emplace_back(plane::Arc{local(edge.center),
-                                         major,
-                                         {-major.y * ratio, major.x * ratio},
-                                         edge.startParam,
-                                         edge.endParam});
+        m_curves.emplace_back(plane::Arc::around(local(edge.center), major,
+                                                 {-major.y * ratio, major.x * ratio},
+                                                 edge.startParam, edge.endParam));
+    }
+
+    std::vector<KdGePoint2d> local(const std::vector<KdGePoint2d>& points) const
+    {
+        std::vector<KdGePoint2d> result;
+        for (const KdGePoint2d& point : points)
+            result.push_back(local(point));
+        return result;
     }
 
     void add(const HatchSplineEdge& edge)
     {
-        for (std::size_t i = 1; i < edge.controlPoints.size(); ++i)
-            addLine(local(edge.controlPoints[i - 1]), local(edge.controlPoints[i]));
+        const std::vector<KdGePoint2d> controlPoints = local(edge.controlPoints);
+        auto shape =
+            plane::SplineShape::create(edge.degree, edge.knots, controlPoints, edge.weights);
+        if (!shape)
+            shape = plane::SplineShape::through(local(edge.fitPoints));
+        if (shape)
+            m_curves.emplace_back(plane::Spline{shape, shape->first(), shape->last(), {}});
+        else // damaged; the polygon is near the curve
+            addPolygon(controlPoints);
+    }
+
+    void addPolygon(const std::vector<KdGePoint2d>& points)
+    {
+        for (std::size_t i = 1; i < points.size(); ++i)
+            addLine(points[i - 1], points[i]);
     }
 
     KdGePoint2d m_origin;

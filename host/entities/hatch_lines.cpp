@@ -141,6 +141,8 @@ bool cutHatchLines(std::span<const plane::Curve> boundary, const HatchPatternLin
     if (!(numbers.count() <= static_cast<double>(kMostHatchLines)))
         return false;
 
+    // A line that only grazes the boundary has a length of half the digits.
+    const double least = 1e-7 * heightOf(level, 0.0).length();
     Sweep sweep(level);
     const Dashes dashes(family.dashes);
     const plane::Turn back(family.angle);
@@ -154,7 +156,7 @@ bool cutHatchLines(std::span<const plane::Curve> boundary, const HatchPatternLin
         };
         const std::vector<double>& crossings = sweep.crossings(y);
         for (std::size_t k = 1; k < crossings.size(); k += 2) {
-            if (crossings[k - 1] < crossings[k] &&
+            if (crossings[k] - crossings[k - 1] > least &&
                 !dashes.cut(crossings[k - 1], crossings[k], phase, append))
                 return false;
         }
