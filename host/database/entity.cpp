@@ -85,6 +85,18 @@ void KdDbEntity::setPropertiesFrom(const KdDbEntity& other)
     m_layer = other.m_layer;
 }
 
+bool KdDbEntity::castShadows() const
+{
+    using Shadows = EntityMembers::Shadows;
+    return data().shadows == Shadows::CastAndReceive || data().shadows == Shadows::Cast;
+}
+
+bool KdDbEntity::receiveShadows() const
+{
+    using Shadows = EntityMembers::Shadows;
+    return data().shadows == Shadows::CastAndReceive || data().shadows == Shadows::Receive;
+}
+
 bool KdDbEntity::isPlanar() const
 {
     return false;

@@ -176,6 +176,11 @@ bool RecordReader::takeGeneral()
     case 160:
     case 310: // preview graphics; elsewhere these codes belong to the kind
         return m_subclass == kEntitySubclass;
+    case 284: // elsewhere this is a number of the kind's own
+        if (!m_subclass.empty() && m_subclass != kEntitySubclass)
+            return false;
+        m_entity->shadows = static_cast<EntityMembers::Shadows>(integer() & 3);
+        return true;
     case 38: // otherwise this is an elevation of the kind's own
         if (m_subclass.empty())
             m_elevation = real();

@@ -17,6 +17,14 @@ struct KW_EXPORT EntityMembers : ObjectMembers
         DictionaryDefault = 2,
         ByName = 3,
     };
+    /// Which shadows the entity has; the numbers are those of drawing files.
+    enum class Shadows : std::uint8_t
+    {
+        CastAndReceive = 0,
+        Cast = 1,
+        Receive = 2,
+        Ignore = 3,
+    };
 
     KdDbObjectId linetype; ///< null: by layer
     KdDbObjectId plotStyle;
@@ -27,6 +35,7 @@ struct KW_EXPORT EntityMembers : ObjectMembers
     std::int16_t lineweight = -1;     ///< 1/100 mm; -1 by layer, -2 by block, -3 default
     PlotStyle plotStyleKind = PlotStyle::ByLayer;
     bool invisible = false;
+    Shadows shadows = Shadows::CastAndReceive;
 };
 
 class KW_EXPORT KdDbEntity : public KdDbObject
@@ -55,6 +64,9 @@ class KW_EXPORT KdDbEntity : public KdDbObject
     /// not there.
     KdString plotStyleName() const;
     bool isInvisible() const { return data().invisible; }
+    /// Whether a rendered view shows the entity's shadow on others, and those of others on it.
+    bool castShadows() const;
+    bool receiveShadows() const;
     /// Takes over layer, colour, linetype and its scale, lineweight, plot style, transparency and
     /// visibility. The entity must be open for write or not yet in a database.
     void setPropertiesFrom(const KdDbEntity& other);
