@@ -16,6 +16,7 @@
 #include <entities/geo_position_marker.h>
 #include <entities/hatch.h>
 #include <entities/image.h>
+#include <entities/image_definition.h>
 #include <entities/leader.h>
 #include <entities/light.h>
 #include <entities/line.h>
@@ -23,6 +24,8 @@
 #include <entities/mesh.h>
 #include <entities/mleader.h>
 #include <entities/mline.h>
+#include <entities/mline_style.h>
+#include <entities/modeler_geometry.h>
 #include <entities/mtext.h>
 #include <entities/ole_frame.h>
 #include <entities/parts.h>
@@ -35,6 +38,7 @@
 #include <entities/section.h>
 #include <entities/shape.h>
 #include <entities/solid3d.h>
+#include <entities/solid_history.h>
 #include <entities/special_text.h>
 #include <entities/spline.h>
 #include <entities/surface.h>

@@ -40,6 +40,8 @@ class KW_EXPORT KdDbPolygonMesh : public KdDbOwnerOfParts<KdDbEntity>
     std::int16_t nSurfaceDensity() const { return data().nDensity; }
     bool isMClosed() const { return data().mClosed; }
     bool isNClosed() const { return data().nClosed; }
+
+    KdErrorStatus getGeomExtents(KdGeExtents3d& extents) const override;
 };
 
 struct KW_EXPORT PolyFaceMeshMembers : EntityMembers
@@ -62,6 +64,8 @@ class KW_EXPORT KdDbPolyFaceMesh : public KdDbOwnerOfParts<KdDbEntity>
     /// The counts as the drawing states them.
     std::int16_t numVertices() const { return data().numVertices; }
     std::int16_t numFaces() const { return data().numFaces; }
+
+    KdErrorStatus getGeomExtents(KdGeExtents3d& extents) const override;
 };
 
 /// A mesh of subdivided faces.
