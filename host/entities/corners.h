@@ -3,7 +3,6 @@
 
 #include <iterator>
 
-
 #include <database/entity.h>
 
 /// The element of a row at `index`; `eInvalidInput` beyond its ends, `element` untouched.

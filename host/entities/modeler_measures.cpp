@@ -82,7 +82,8 @@ using Coordinate = double KdGeVector3d::*;
 constexpr Coordinate kCoordinates[] = {&KdGeVector3d::x, &KdGeVector3d::y, &KdGeVector3d::z};
 
 /// The place between two others at which a coordinate turns back.
-KdGePoint3d turningPoint(const ModelerSpline& spline, Coordinate coordinate, double low, double high)
+KdGePoint3d turningPoint(const ModelerSpline& spline, Coordinate coordinate, double low,
+                         double high)
 {
     constexpr int kHalvings = 48;
     const double before = spline.at(low).derivative.*coordinate;

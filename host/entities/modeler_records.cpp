@@ -4,7 +4,6 @@ namespace {
 
 using Kind = ModelerToken::Kind;
 
-
 /// Behind the records there may be earlier states of the body.
 bool endsBody(std::string_view name)
 {

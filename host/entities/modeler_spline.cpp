@@ -147,7 +147,8 @@ ModelerSpline::Place ModelerSpline::at(double parameter) const
     const double weight = p.weight != 0.0 ? p.weight : 1.0;
     const KdGePoint3d point{p.x / weight, p.y / weight, p.z / weight};
     return {point,
-            {(slope.x - slope.weight * point.x) / weight, (slope.y - slope.weight * point.y) / weight,
+            {(slope.x - slope.weight * point.x) / weight,
+             (slope.y - slope.weight * point.y) / weight,
              (slope.z - slope.weight * point.z) / weight}};
 }
 

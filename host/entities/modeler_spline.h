@@ -27,8 +27,8 @@ class ModelerSpline
     Place at(double parameter) const;
     double begin() const { return m_knots[m_degree]; }
     double end() const { return m_knots[m_knots.size() - 1 - m_degree]; }
-    /// The part from `first` to `last`, which may be below `first`, cut where the spans of the curve
-    /// meet.
+    /// The part from `first` to `last`, which may be below `first`, cut where the spans of the
+    /// curve meet.
     std::vector<double> cuts(double first, double last) const;
 
   private:

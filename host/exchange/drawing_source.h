@@ -8,6 +8,7 @@
 #include <database/database.h>
 #include <database/dimension_style.h>
 
+#include "body_data.h"
 #include "file_bytes.h"
 #include "file_form.h"
 #include "text_decoder.h"
@@ -85,6 +86,7 @@ struct DrawingSource
     NamedRecords<KdDbDimStyleTable> dimensionStyles;
     std::unordered_map<std::string_view, KdDbObjectId> blocks;
     std::unordered_map<KdDbObjectId, KdDbObjectId> firstViewports;
+    BodyDataIndex bodies;
 };
 
 } // namespace dxf

@@ -6,6 +6,7 @@
 
 #include <runtime/heap.h>
 
+#include "group_values.h"
 #include "record_reader.h"
 
 namespace dxf {
@@ -13,33 +14,9 @@ namespace {
 
 constexpr short kChunk = 1004;
 
-int digitOf(char c)
-{
-    if (c >= '0' && c <= '9')
-        return c - '0';
-    if (c >= 'A' && c <= 'F')
-        return c - 'A' + 10;
-    return c >= 'a' && c <= 'f' ? c - 'a' + 10 : -1;
-}
-
-/// The bytes that pairs of hexadecimal digits stand for, up to the first fault.
-std::string bytesOfHex(std::string_view digits)
-{
-    std::string bytes;
-    for (std::size_t i = 0; i + 1 < digits.size(); i += 2) {
-        const int high = digitOf(digits[i]);
-        const int low = digitOf(digits[i + 1]);
-        if (high < 0 || low < 0)
-            break;
-        bytes.push_back(static_cast<char>(high * 16 + low));
-    }
-    return bytes;
-}
-
 resbuf* chunkRecord(const Group& group)
 {
-    const std::string bytes = group.form == Group::Form::Chunk ? std::string(group.text)
-                                                               : bytesOfHex(trimmed(group.text));
+    const std::string bytes = chunkOf(group);
     constexpr std::size_t kMost = std::numeric_limits<short>::max();
     const std::size_t size = std::min(bytes.size(), kMost);
     resbuf* record = kdutNewRb(kChunk);

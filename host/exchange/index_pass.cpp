@@ -74,6 +74,8 @@ void IndexPass::readContent(std::string_view name)
         readEntities();
     } else if (name == "OBJECTS") {
         m_objects.read(m_cursor);
+    } else if (name == "ACDSDATA") {
+        m_source.bodies.setSection(m_cursor.offset());
     }
 }
 

@@ -67,4 +67,12 @@ void field(RecordReader& reader, typename FieldOf<decltype(Member)>::Members& me
     members.*Member = fieldValue<typename FieldOf<decltype(Member)>::Value>(reader);
 }
 
+/// The whole reader of a record of which each group is told by its code alone.
+template <const auto& Rows, class Members>
+void readFields(RecordReader& reader, Members& members)
+{
+    while (reader.next())
+        takeField(Rows, reader, members);
+}
+
 } // namespace dxf

@@ -40,5 +40,13 @@ std::span<const MemberReaderRow> insertReaders();
 std::span<const MemberReaderRow> hatchReaders();
 std::span<const MemberReaderRow> viewportReaders();
 std::span<const MemberReaderRow> proxyReaders();
+std::span<const MemberReaderRow> faceReaders();
+std::span<const MemberReaderRow> imageReaders();
+std::span<const MemberReaderRow> mlineReaders();
+std::span<const MemberReaderRow> lightReaders();
+std::span<const MemberReaderRow> sectionReaders();
+std::span<const MemberReaderRow> solid3dReaders();
+std::span<const MemberReaderRow> pointCloudReaders();
+std::span<const MemberReaderRow> geoPositionReaders();
 
 } // namespace dxf

@@ -37,6 +37,10 @@ class ReaderMap
               mleaderReaders(), insertReaders(), viewportReaders(), proxyReaders()}) {
              {tableReaders(), objectReaders(), curveReaders(), polylineReaders(), meshReaders(),
               textReaders(), insertReaders(), hatchReaders(), viewportReaders(), proxyReaders()}) {
+             {tableReaders(), objectReaders(), curveReaders(), polylineReaders(), meshReaders(),
+              textReaders(), mtextReaders(), mleaderReaders(), insertReaders(), viewportReaders(),
+              proxyReaders(), faceReaders(), imageReaders(), mlineReaders(), lightReaders(),
+              sectionReaders(), solid3dReaders(), pointCloudReaders(), geoPositionReaders()}) {
             for (const MemberReaderRow& row : rows)
                 m_readers.emplace(row.rxClass(), row.read);
         }

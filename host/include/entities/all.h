@@ -13,6 +13,7 @@
 #include <entities/extrusion.h>
 #include <entities/face.h>
 #include <entities/fcf.h>
+#include <entities/geo_data.h>
 #include <entities/geo_position_marker.h>
 #include <entities/hatch.h>
 #include <entities/image.h>

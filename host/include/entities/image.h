@@ -15,9 +15,9 @@ struct KW_EXPORT RasterImageMembers : EntityMembers
                                           ///< middle of the first pixel being the origin
     std::uint8_t displayOptions = 0;
     bool clipped = false;
-    bool clipIsRectangle = true;  ///< then the polygon holds two opposite corners
-    bool clipIsInverted = false;  ///< what lies outside is shown
-    std::int8_t brightness = 50;  ///< 0 to 100, like the two below
+    bool clipIsRectangle = true; ///< then the polygon holds two opposite corners
+    bool clipIsInverted = false; ///< what lies outside is shown
+    std::int8_t brightness = 50; ///< 0 to 100, like the two below
     std::int8_t contrast = 50;
     std::int8_t fade = 0;
 };
@@ -41,7 +41,8 @@ class KW_EXPORT KdDbRasterImage : public KdDbImage
 
     /// A `KdDbRasterImageDef`; the null id for a wipeout.
     KdDbObjectId imageDefId() const { return data().definition; }
-    /// Where the image lies, in WCS: its lower left corner, and its lower and left edges as vectors.
+    /// Where the image lies, in WCS: its lower left corner, and its lower and left edges as
+    /// vectors.
     void getOrientation(KdGePoint3d& origin, KdGeVector3d& u, KdGeVector3d& v) const;
     /// In pixels.
     KdGeVector2d imageSize() const { return data().size; }

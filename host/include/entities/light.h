@@ -10,8 +10,8 @@ struct KW_EXPORT LightMembers : EntityMembers
     KdGePoint3d position; ///< WCS
     KdGePoint3d target;   ///< WCS
     double intensity = 1.0;
-    double hotspotAngle = 0.0; ///< radians
-    double falloffAngle = 0.0; ///< radians
+    double hotspotAngle = 0.0;             ///< radians
+    double falloffAngle = 0.0;             ///< radians
     std::uint32_t lightColor = 0xC3000007; ///< the word of a `KdCmColor`
     std::int16_t type = 1;
     bool on = true;

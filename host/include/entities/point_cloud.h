@@ -21,7 +21,7 @@ class KW_EXPORT KdDbPointCloudDefEx : public KdDbObject
 
 struct KW_EXPORT PointCloudExMembers : EntityMembers
 {
-    KdGePoint3d origin;               ///< WCS
+    KdGePoint3d origin;                ///< WCS
     KdGeVector3d xAxis{1.0, 0.0, 0.0}; ///< WCS, as long as the cloud is scaled
     KdDbObjectId definition;
     KdString name;
