@@ -6,3 +6,5 @@
 
 [[gnu::init_priority(kInitConstraintsLayer)]] const std::wstring ConstraintsLayerName =
     L"*ADSK_CONSTRAINTS";
+
+bool g_bIsIni3DSolidProp = false;
