@@ -1,13 +1,13 @@
 #include "modeler_body.h"
 
-#include <algorithm>
 #include <cmath>
-#include <numbers>
 #include <unordered_map>
 
-namespace {
+#include <geometry/arcs.h>
 
-constexpr double kTurn = 2.0 * std::numbers::pi;
+#include "modeler_spline.h"
+
+namespace {
 
 KdGePoint3d pointOf(const ModelerFields& fields, std::size_t first)
 {
@@ -38,8 +38,8 @@ class BodyReader
     void readEdge(int record);
     std::optional<ModelerArc> readArc(int curve, const ModelerEdge& edge, bool reversed,
                                       bool whole) const;
-    std::optional<ModelerSplinePart> readSpline(int curve, const ModelerEdge& edge,
-                                                const ModelerFields& fields) const;
+    std::unique_ptr<KdGeCurve3d> readSpline(int curve, const ModelerEdge& edge,
+                                            const ModelerFields& fields) const;
     void readFace(int record);
     ModelerSurface readSurface(int record) const;
     void readLoops(int loop, ModelerFace& face);
@@ -95,21 +95,26 @@ KdGePoint3d BodyReader::vertexPoint(int vertex) const
 void BodyReader::readEdge(int record)
 {
     const ModelerFields fields = m_records.fields(record);
-    ModelerEdge edge{vertexPoint(fields.reference(0)), vertexPoint(fields.reference(1)), {}};
+    ModelerEdge edge;
+    edge.start = vertexPoint(fields.reference(0));
+    edge.end = vertexPoint(fields.reference(1));
     const int curve = fields.reference(3);
     const std::string_view kind = m_records.name(curve);
     if (kind == "ellipse") {
         const bool whole = fields.reference(0) == fields.reference(1);
-        if (const auto arc = readArc(curve, edge, fields.isReversed(), whole))
-            edge.curve = *arc;
+        edge.arc = readArc(curve, edge, fields.isReversed(), whole);
+        if (const auto& arc = edge.arc)
+            edge.curve = std::make_unique<KdGeEllipArc3d>(arc->center, arc->major, arc->minor,
+                                                          arc->major.length(), arc->minor.length(),
+                                                          arc->start, arc->end);
     } else if (kind == "intcurve") {
-        if (auto part = readSpline(curve, edge, fields))
-            edge.curve = std::move(*part);
+        edge.curve = readSpline(curve, edge, fields);
     }
     m_edges.emplace(record, m_body.edges.size());
     m_body.edges.push_back(std::move(edge));
 }
 
+/// The minor axis is turned round where the edge runs against its curve.
 std::optional<ModelerArc> BodyReader::readArc(int curve, const ModelerEdge& edge, bool reversed,
                                               bool whole) const
 {
@@ -117,7 +122,8 @@ std::optional<ModelerArc> BodyReader::readArc(int curve, const ModelerEdge& edge
     ModelerArc arc;
     arc.center = m_frame * pointOf(fields, 0);
     arc.major = vectorOf(fields, 6);
-    arc.minor = vectorOf(fields, 3).normal().crossProduct(arc.major) * numberOf(fields, 9);
+    const double ratio = reversed ? -numberOf(fields, 9) : numberOf(fields, 9);
+    arc.minor = vectorOf(fields, 3).normal().crossProduct(arc.major) * ratio;
     const double majorSquare = arc.major.dotProduct(arc.major);
     const double minorSquare = arc.minor.dotProduct(arc.minor);
     if (!(majorSquare > 0.0) || !(minorSquare > 0.0))
@@ -128,35 +134,32 @@ std::optional<ModelerArc> BodyReader::readArc(int curve, const ModelerEdge& edge
                           arm.dotProduct(arc.major) / majorSquare);
     };
     arc.start = angleOf(edge.start);
-    double ahead = whole ? kTurn : angleOf(edge.end) - arc.start;
-    if (ahead <= 0.0)
-        ahead += kTurn;
-    arc.sweep = !reversed ? ahead : whole ? -kTurn : ahead - kTurn;
+    arc.end = whole ? arc.start : angleOf(edge.end);
+    if (arc.end <= arc.start)
+        arc.end += KdGe::kTurn;
     return arc;
 }
 
 /// An edge runs over the whole of its curve unless it says otherwise. Which way is told by the
 /// points at its ends.
-std::optional<ModelerSplinePart> BodyReader::readSpline(int curve, const ModelerEdge& edge,
-                                                        const ModelerFields& fields) const
+std::unique_ptr<KdGeCurve3d> BodyReader::readSpline(int curve, const ModelerEdge& edge,
+                                                    const ModelerFields& fields) const
 {
-    auto spline = ModelerSpline::read(m_records, curve, m_frame);
-    if (!spline)
-        return {};
-    double first = spline->begin();
-    double last = spline->end();
+    const auto whole = readModelerCurve(m_records, curve, m_frame);
+    if (!whole)
+        return nullptr;
+    double first = whole->interval().lower;
+    double last = whole->interval().upper;
     if (fields.numbers.size() >= 2) {
         const bool turned = fields.isReversed() != m_records.fields(curve).isReversed();
         first = turned ? -fields.numbers[0] : fields.numbers[0];
         last = turned ? -fields.numbers[1] : fields.numbers[1];
     }
-    first = std::clamp(first, spline->begin(), spline->end());
-    last = std::clamp(last, spline->begin(), spline->end());
-    const double toFirst = spline->at(first).point.distanceTo(edge.start);
-    const double toLast = spline->at(last).point.distanceTo(edge.start);
+    const double toFirst = whole->evalPoint(first).distanceTo(edge.start);
+    const double toLast = whole->evalPoint(last).distanceTo(edge.start);
     if (toLast < toFirst)
         std::swap(first, last);
-    return ModelerSplinePart{std::move(*spline), first, last};
+    return whole->part(first, last);
 }
 
 void BodyReader::readFace(int record)
@@ -189,7 +192,7 @@ ModelerSurface BodyReader::readSurface(int record) const
         surface.minorRadius = numberOf(fields, 7) * m_scale;
     } else if (kind == "spline") {
         surface.kind = ModelerSurface::Kind::Free;
-        surface.hull = modelerSurfaceHull(m_records, record, m_frame);
+        surface.hull = readModelerSurface(m_records, record, m_frame);
     }
     return surface;
 }

@@ -1,48 +1,36 @@
 // A body of a solid modeler as faces and edges in world coordinates.
 #pragma once
 
+#include <memory>
 #include <optional>
 #include <string>
-#include <variant>
 #include <vector>
 
-#include <geometry/extents.h>
-#include <geometry/matrix.h>
+#include <geometry/curve.h>
 
-#include "modeler_spline.h"
-
-/// A part of an ellipse: center + major cos t + minor sin t, with t running from `start` over
-/// `sweep`, which may be negative.
+/// A part of an ellipse: center + major cos t + minor sin t, with t running from `start` to `end`,
+/// which is above it.
 struct ModelerArc
 {
     KdGePoint3d center;
     KdGeVector3d major;
     KdGeVector3d minor;
     double start = 0.0;
-    double sweep = 0.0;
+    double end = 0.0;
 
     KdGePoint3d pointAt(double t) const;
     KdGeVector3d tangentAt(double t) const;
     KdGeVector3d normal() const { return major.crossProduct(minor).normal(); }
 };
 
-/// A part of a spline; `first` may be above `last`.
-struct ModelerSplinePart
-{
-    ModelerSpline spline;
-    double first;
-    double last;
-};
-
-/// An edge in its own direction. One without a curve that is understood counts as straight.
 struct ModelerEdge
 {
     KdGePoint3d start;
     KdGePoint3d end;
-    std::variant<std::monostate, ModelerArc, ModelerSplinePart> curve;
-
-    const ModelerArc* arc() const { return std::get_if<ModelerArc>(&curve); }
-    const ModelerSplinePart* spline() const { return std::get_if<ModelerSplinePart>(&curve); }
+    /// From the start to the end. Null for a straight edge; one whose curve is not understood
+    /// counts as straight.
+    std::unique_ptr<KdGeCurve3d> curve;
+    std::optional<ModelerArc> arc; ///< what the curve is
 };
 
 struct ModelerSurface

@@ -3,6 +3,8 @@
 #include <cmath>
 #include <numbers>
 
+#include <geometry/matrix.h>
+
 namespace {
 
 constexpr KdGeVector3d kDirections[] = {{1, 0, 0},  {-1, 0, 0}, {0, 1, 0},
@@ -34,13 +36,12 @@ std::vector<Border> bordersOf(const ModelerBody& body, const ModelerFace& face)
     std::vector<Border> borders;
     for (const auto& loop : face.loops) {
         for (const ModelerFace::EdgeUse& use : loop) {
-            const ModelerArc* arc = body.edges[use.edge].arc();
+            const auto& arc = body.edges[use.edge].arc;
             if (!arc)
                 continue;
-            const double middle = arc->start + arc->sweep / 2;
+            const double middle = (arc->start + arc->end) / 2;
             const KdGePoint3d point = arc->pointAt(middle);
-            const bool against = use.reversed != (arc->sweep < 0.0);
-            const KdGeVector3d along = arc->tangentAt(middle) * (against ? -1.0 : 1.0);
+            const KdGeVector3d along = arc->tangentAt(middle) * (use.reversed ? -1.0 : 1.0);
             const KdGeVector3d outward =
                 normalAt(face.surface, point) * (face.reversed ? -1.0 : 1.0);
             borders.push_back({*arc, point, outward.crossProduct(along)});

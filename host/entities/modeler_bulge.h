@@ -1,6 +1,8 @@
 // How far round faces swell beyond their edges.
 #pragma once
 
+#include <geometry/extents.h>
+
 #include "modeler_body.h"
 
 /// Adds the extremes inside a face: of a sphere or a torus those that its circular edges leave in,

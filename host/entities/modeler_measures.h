@@ -1,6 +1,10 @@
 // Measures of bodies.
 #pragma once
 
+#include <optional>
+
+#include <geometry/extents.h>
+
 #include "modeler_body.h"
 
 struct PlaneMeasures

@@ -125,6 +125,24 @@ std::unique_ptr<KdGeNurbCurve3d> KdGeNurbCurve3d::create(int degree, std::span<c
     }
 }
 
+std::unique_ptr<KdGeNurbCurve3d> KdGeNurbCurve3d::part(double first, double last) const
+{
+    const double from = interval().clamped(std::min(first, last));
+    const double to = interval().clamped(std::max(first, last));
+    if (!(to - from > Precision::PConfusion()))
+        return nullptr;
+    try {
+        auto kernel = std::make_unique<Kernel>();
+        kernel->curve = Handle(Geom_BSplineCurve)::DownCast(m_kernel->curve->Copy());
+        kernel->curve->Segment(from, to);
+        if (first > last)
+            kernel->curve->Reverse();
+        return std::unique_ptr<KdGeNurbCurve3d>(new KdGeNurbCurve3d(std::move(kernel)));
+    } catch (const Standard_Failure&) {
+        return nullptr;
+    }
+}
+
 KdGeInterval KdGeNurbCurve3d::interval() const
 {
     return {m_kernel->curve->FirstParameter(), m_kernel->curve->LastParameter()};

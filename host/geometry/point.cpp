@@ -42,15 +42,19 @@ KdGeVector3d KdGeVector3d::crossProduct(const KdGeVector3d& other) const
     return {y * other.z - z * other.y, z * other.x - x * other.z, x * other.y - y * other.x};
 }
 
-double KdGeVector3d::angleTo(const KdGeVector3d& other, const KdGeVector3d& axis) const
+double KdGeVector3d::angleTo(const KdGeVector3d& other) const
 {
     // Of length 1, so that products of long or short vectors stay within the range of numbers.
     const KdGeVector3d from = normal();
     const KdGeVector3d to = other.normal();
-    const KdGeVector3d across = from.crossProduct(to);
-    const double angle = std::atan2(across.length(), from.dotProduct(to));
+    return std::atan2(from.crossProduct(to).length(), from.dotProduct(to));
+}
+
+double KdGeVector3d::angleTo(const KdGeVector3d& other, const KdGeVector3d& axis) const
+{
+    const double angle = angleTo(other);
     constexpr double kTurn = 2.0 * std::numbers::pi;
-    if (across.dotProduct(axis) >= 0.0)
+    if (normal().crossProduct(other.normal()).dotProduct(axis) >= 0.0)
         return angle;
     return angle > 0.0 && kTurn - angle < kTurn ? kTurn - angle : 0.0;
 }

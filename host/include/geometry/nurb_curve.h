@@ -21,6 +21,10 @@ class KW_EXPORT KdGeNurbCurve3d : public KdGeCurve3d
                                                    std::span<const double> weights = {});
     ~KdGeNurbCurve3d() override;
 
+    /// The part between two parameters, run through from the first one to the last, which may be
+    /// lower. Null for a part without length.
+    std::unique_ptr<KdGeNurbCurve3d> part(double first, double last) const;
+
     KdGeInterval interval() const override;
     KdGePoint3d evalPoint(double parameter) const override;
     double length(double from, double to, double tolerance) const override;

@@ -30,6 +30,9 @@ struct KW_EXPORT KdGeVector3d
     KdGeVector3d normal() const;
     double dotProduct(const KdGeVector3d& other) const;
     KdGeVector3d crossProduct(const KdGeVector3d& other) const;
+    /// The angle between the two vectors, in radians from 0 to half a turn. 0 if a vector has no
+    /// length.
+    double angleTo(const KdGeVector3d& other) const;
     /// The angle to `other`, counter-clockwise as seen against `axis`, in radians from 0 up to but
     /// not including a whole turn. 0 if a vector has no length.
     /// @param axis  across both vectors; only the side to which it points matters
