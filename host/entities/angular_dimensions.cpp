@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "turn.h"
+#include <geometry/turn.h>
 
 KD_RX_DEFINE(KdDb2LineAngularDimension, KdDbDimension, L"AcDb2LineAngularDimension", L"DIMENSION")
 KD_RX_DEFINE(KdDb3PointAngularDimension, KdDbDimension, L"AcDb3PointAngularDimension", L"DIMENSION")
@@ -28,7 +28,7 @@ KdErrorStatus sectorAngle(const KdGeVector3d& first, const KdGeVector3d& second,
     if (first == KdGeVector3d{} || second == KdGeVector3d{})
         return eInvalidInput;
     const double onward = first.angleTo(second, normal);
-    angle = first.angleTo(inside, normal) <= onward ? onward : kTurn - onward;
+    angle = first.angleTo(inside, normal) <= onward ? onward : KdGe::kTurn - onward;
     return eOk;
 }
 
@@ -44,7 +44,7 @@ KdErrorStatus arcSpan(const ArcDimensionMembers& arc, double& span)
 {
     if (arc.arcStartParam == arc.arcEndParam)
         return sectorAngle(arc, span);
-    span = endOfTurn(arc.arcStartParam, arc.arcEndParam) - arc.arcStartParam;
+    span = KdGe::endOfTurn(arc.arcStartParam, arc.arcEndParam) - arc.arcStartParam;
     return eOk;
 }
 

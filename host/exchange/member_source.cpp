@@ -14,34 +14,25 @@ void readNothingMore(RecordReader& reader, ObjectMembers&)
     reader.skipRest();
 }
 
+/// The rows of all families.
+constexpr std::span<const MemberReaderRow> (*kFamilies[])() = {
+    associativityReaders, curveReaders,       dimensionReaders, dimensionStyleReaders,
+    faceReaders,          geoPositionReaders, hatchReaders,     imageReaders,
+    insertReaders,        leaderReaders,      lightReaders,     meshReaders,
+    mleaderReaders,       mlineReaders,       mtextReaders,     objectReaders,
+    pointCloudReaders,    polylineReaders,    proxyReaders,     sectionReaders,
+    solid3dReaders,       splineReaders,      tableReaders,     textReaders,
+    viewportReaders,
+};
+
 /// All rows by class.
 class ReaderMap
 {
   public:
     ReaderMap()
     {
-        for (const auto rows :
-             {tableReaders(), objectReaders(), curveReaders(), polylineReaders(), splineReaders(),
-              meshReaders(), textReaders(), insertReaders(), viewportReaders(), proxyReaders()}) {
-        for (const auto rows : {tableReaders(), dimensionStyleReaders(), objectReaders(),
-                                curveReaders(), polylineReaders(), meshReaders(), textReaders(),
-                                insertReaders(), viewportReaders(), proxyReaders()}) {
-             {tableReaders(), dimensionStyleReaders(), dimensionReaders(), associativityReaders(),
-              objectReaders(), curveReaders(), polylineReaders(), meshReaders(), textReaders(),
-              insertReaders(), viewportReaders(), proxyReaders()}) {
-        for (const auto rows : {tableReaders(), objectReaders(), curveReaders(), polylineReaders(),
-                                meshReaders(), textReaders(), mtextReaders(), mleaderReaders(),
-                                insertReaders(), viewportReaders(), proxyReaders()}) {
-             {tableReaders(), dimensionStyleReaders(), objectReaders(), curveReaders(),
-              polylineReaders(), meshReaders(), textReaders(), mtextReaders(), leaderReaders(),
-              mleaderReaders(), insertReaders(), viewportReaders(), proxyReaders()}) {
-             {tableReaders(), objectReaders(), curveReaders(), polylineReaders(), meshReaders(),
-              textReaders(), insertReaders(), hatchReaders(), viewportReaders(), proxyReaders()}) {
-             {tableReaders(), objectReaders(), curveReaders(), polylineReaders(), meshReaders(),
-              textReaders(), mtextReaders(), mleaderReaders(), insertReaders(), viewportReaders(),
-              proxyReaders(), faceReaders(), imageReaders(), mlineReaders(), lightReaders(),
-              sectionReaders(), solid3dReaders(), pointCloudReaders(), geoPositionReaders()}) {
-            for (const MemberReaderRow& row : rows)
+        for (const auto readers : kFamilies) {
+            for (const MemberReaderRow& row : readers())
                 m_readers.emplace(row.rxClass(), row.read);
         }
     }
