@@ -25,7 +25,17 @@ struct ExpectedRow
     std::string displayed = {};
     /// What follows the display text when choices are asked for as well, where that is other.
     std::vector<std::string> displayedChoices = {};
+    /// What belongs to the value itself: the further points of a row of points.
+    std::vector<std::string> further = {};
 };
+
+/// A row of points, in the words of `inWords`.
+inline ExpectedRow pointRow(int id, const wchar_t* key, const std::vector<std::string>& points)
+{
+    ExpectedRow row{id, key, false, points.front()};
+    row.further.assign(points.begin() + 1, points.end());
+    return row;
+}
 
 /// Texts as the records in which they are offered.
 inline std::vector<std::string> texts(std::initializer_list<const char*> names)
@@ -49,6 +59,7 @@ inline void expectValue(KdDbEntityPE& provider, const KdDbEntity& entity, const 
     for (const bool asDisplayText : {false, true}) {
         for (const bool withChoices : {false, true}) {
             std::vector<std::string> expected{asDisplayText && differs ? row.displayed : row.value};
+            expected.insert(expected.end(), row.further.begin(), row.further.end());
             if (withChoices) {
                 const bool other = asDisplayText && !row.displayedChoices.empty();
                 const auto& more = other ? row.displayedChoices : row.choices;
