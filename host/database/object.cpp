@@ -97,8 +97,12 @@ KdErrorStatus KdDbObject::close()
 
 const resbuf* KdDbObject::extendedData(const wchar_t* application, const resbuf*& end) const
 {
+    if (!application) {
+        end = nullptr;
+        return members().extendedData.get();
+    }
     constexpr short kApplicationName = 1001;
-    const std::wstring_view wanted = application ? application : L"";
+    const std::wstring_view wanted = application;
     const auto beginsWanted = [wanted](const resbuf& record) {
         const wchar_t* name = record.resval.rstring;
         return record.restype == kApplicationName && KdNameEqual()(name ? name : L"", wanted);

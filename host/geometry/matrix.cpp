@@ -34,6 +34,24 @@ KdGeMatrix3d KdGeMatrix3d::worldToPlane(const KdGeVector3d& normal)
     return map;
 }
 
+KdGeMatrix3d KdGeMatrix3d::inverse() const
+{
+    const auto column = [this](std::size_t i) {
+        return KdGeVector3d{entry[0][i], entry[1][i], entry[2][i]};
+    };
+    const KdGeVector3d yz = column(1).crossProduct(column(2));
+    const double volume = column(0).dotProduct(yz);
+    if (volume == 0.0)
+        return {};
+    const KdGeVector3d rows[]{yz * (1.0 / volume),
+                              column(2).crossProduct(column(0)) * (1.0 / volume),
+                              column(0).crossProduct(column(1)) * (1.0 / volume)};
+    KdGeMatrix3d map;
+    for (std::size_t i = 0; i < 3; ++i)
+        map.entry[i] = {rows[i].x, rows[i].y, rows[i].z, -rows[i].dotProduct(column(3))};
+    return map;
+}
+
 KdGePoint3d KdGeMatrix3d::operator*(const KdGePoint3d& p) const
 {
     const auto row = [&](std::size_t i) {

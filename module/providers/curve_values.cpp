@@ -28,17 +28,31 @@ double parameterSpan(const KdDbCurve& curve)
     return end - start;
 }
 
-KdString areaText(double area)
+double curveLength(const KdDbCurve& curve)
+{
+    double end = 0.0;
+    curve.getEndParam(end);
+    double length = 0.0;
+    curve.getDistAtParam(end, length);
+    return length;
+}
+
+double curveArea(const KdDbCurve& curve)
+{
+    double area = 0.0;
+    KdDbCurveArea(&curve).getArea(area);
+    return area;
+}
+
+KdString areaText(double area, const wchar_t* otherwise)
 {
     constexpr int kOfTheDrawing = -1;
-    CStdStr<wchar_t> text;
+    CStdStr<wchar_t> text(otherwise);
     realAreaToString(area, kOfTheDrawing, kOfTheDrawing, text);
     return KdString(text.c_str());
 }
 
 KdString curveAreaText(const KdDbCurve& curve)
 {
-    double area = 0.0;
-    curve.getArea(area);
-    return areaText(area);
+    return areaText(curveArea(curve));
 }

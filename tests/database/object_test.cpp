@@ -247,6 +247,15 @@ TEST_F(ObjectExtendedData, OfTheLastApplicationEndsWithTheChain)
     EXPECT_EQ(m_end, nullptr);
 }
 
+TEST_F(ObjectExtendedData, OfAllApplicationsIsTheWholeChain)
+{
+    const resbuf* first = m_line.extendedData(nullptr, m_end);
+    ASSERT_NE(first, nullptr);
+    EXPECT_STREQ(first->resval.rstring, L"First");
+    EXPECT_EQ(m_end, nullptr);
+    EXPECT_EQ(KdDbLine().extendedData(nullptr, m_end), nullptr);
+}
+
 TEST_F(ObjectExtendedData, IsFoundWithoutCase)
 {
     EXPECT_NE(m_line.extendedData(L"FIRST", m_end), nullptr);
@@ -257,7 +266,6 @@ TEST_F(ObjectExtendedData, IsNullWhereThereIsNone)
     EXPECT_EQ(m_line.extendedData(L"Missing", m_end), nullptr);
     EXPECT_EQ(m_line.extendedData(L"Empty", m_end), nullptr);
     EXPECT_EQ(m_line.extendedData(L"value", m_end), nullptr);
-    EXPECT_EQ(m_line.extendedData(nullptr, m_end), nullptr);
     EXPECT_EQ(KdDbLine().extendedData(L"First", m_end), nullptr);
 }
 

@@ -21,6 +21,9 @@ struct KW_EXPORT KdGeMatrix3d
     /// The inverse of `planeToWorld`.
     static KdGeMatrix3d worldToPlane(const KdGeVector3d& normal);
 
+    /// The map back. A map that flattens space has none and gives the identity.
+    KdGeMatrix3d inverse() const;
+
     KdGePoint3d operator*(const KdGePoint3d& point) const;
     KdGeVector3d operator*(const KdGeVector3d& vector) const;
     KdGeMatrix3d operator*(const KdGeMatrix3d& other) const;
