@@ -111,10 +111,7 @@ constexpr FieldRow<Line> kLine[] = {
 class MLeaderReader
 {
   public:
-    explicit MLeaderReader(MLeaderMembers& leader) : m_leader(leader)
-    {
-        m_text.direction = {}; // shows whether the drawing gives one
-    }
+    explicit MLeaderReader(MLeaderMembers& leader) : m_leader(leader) {}
 
     void read(RecordReader& reader)
     {

@@ -30,7 +30,6 @@ class MTextReader
     MTextData& m_text;
     std::string m_letters; ///< of the pieces before the last, not decoded: one may end in a letter
     std::optional<double> m_angle; ///< radians
-    bool m_hasDirection = false;
     bool m_hasFillRgb = false;
 };
 

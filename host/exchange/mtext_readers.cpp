@@ -126,7 +126,6 @@ bool MTextReader::takePlace(RecordReader& reader)
         return true;
     case 11:
         m_text.direction = reader.vector();
-        m_hasDirection = true;
         return true;
     case 50:
         m_angle = reader.angle();
@@ -230,7 +229,7 @@ void MTextReader::finish(RecordReader& reader)
         m_text.contents = reader.source().decoder.decode(m_letters);
     if (m_text.style.isNull())
         m_text.style = standardTextStyle(reader.source());
-    if (m_angle && !m_hasDirection) {
+    if (m_angle && m_text.direction == KdGeVector3d{}) {
         const KdGeVector3d inPlane{std::cos(*m_angle), std::sin(*m_angle), 0.0};
         m_text.direction = KdGeMatrix3d::planeToWorld(m_text.normal) * inPlane;
     }

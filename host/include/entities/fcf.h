@@ -6,10 +6,10 @@
 
 struct KW_EXPORT FcfMembers : EntityMembers
 {
-    KdString text;                         ///< cells and lines as `KdDbFcf::text` tells
-    KdGePoint3d location;                  ///< WCS
-    KdGeVector3d normal{0.0, 0.0, 1.0};    ///< WCS, of any length
-    KdGeVector3d direction{1.0, 0.0, 0.0}; ///< WCS, of any length
+    KdString text;                      ///< cells and lines as `KdDbFcf::text` tells
+    KdGePoint3d location;               ///< WCS
+    KdGeVector3d normal{0.0, 0.0, 1.0}; ///< WCS, of any length
+    KdGeVector3d direction; ///< WCS, of any length; without: the x axis of the object frame
     DimensionStyleUse dimension;
 };
 

@@ -48,10 +48,11 @@ struct KW_EXPORT MTextData
         double gutter = 0.0;
     };
 
-    KdString contents;                     ///< with format codes
-    KdGePoint3d location;                  ///< WCS
-    KdGeVector3d normal{0.0, 0.0, 1.0};    ///< WCS, of any length
-    KdGeVector3d direction{1.0, 0.0, 0.0}; ///< WCS, of any length: along the lines
+    KdString contents;                  ///< with format codes
+    KdGePoint3d location;               ///< WCS
+    KdGeVector3d normal{0.0, 0.0, 1.0}; ///< WCS, of any length
+    /// WCS, of any length: along the lines. Without length: along the x axis of the object frame.
+    KdGeVector3d direction;
     double textHeight = 0.0;
     double width = 0.0;       ///< at which lines are broken; 0: never
     double height = 0.0;      ///< of a column; 0 where none is defined
