@@ -125,10 +125,10 @@ class MLeaderReader
   private:
     enum class Place
     {
-        Entity,
-        Content,
-        Branch,
-        Line,
+        InEntity,
+        InContent,
+        InBranch,
+        InLine,
     };
 
     bool takeBrace(RecordReader& reader);
@@ -143,7 +143,7 @@ class MLeaderReader
     Content m_content;
     MTextData m_text;
     Block m_block;
-    Place m_place = Place::Entity;
+    Place m_place = Place::InEntity;
     bool m_hasScale = false;
 };
 
@@ -160,23 +160,23 @@ bool MLeaderReader::takeBrace(RecordReader& reader)
 {
     switch (reader.code()) {
     case 300:
-        return step(Place::Entity, Place::Content);
+        return step(Place::InEntity, Place::InContent);
     case 301:
-        return step(Place::Content, Place::Entity);
+        return step(Place::InContent, Place::InEntity);
     case 302:
-        if (!step(Place::Content, Place::Branch))
+        if (!step(Place::InContent, Place::InBranch))
             return false;
         m_leader.branches.emplace_back();
         return true;
     case 303:
-        return step(Place::Branch, Place::Content);
+        return step(Place::InBranch, Place::InContent);
     case 304:
-        if (!step(Place::Branch, Place::Line))
+        if (!step(Place::InBranch, Place::InLine))
             return false;
         m_leader.branches.back().lines.emplace_back();
         return true;
     case 305:
-        return step(Place::Line, Place::Branch);
+        return step(Place::InLine, Place::InBranch);
     default:
         return false;
     }
@@ -185,16 +185,16 @@ bool MLeaderReader::takeBrace(RecordReader& reader)
 void MLeaderReader::takeInside(RecordReader& reader)
 {
     switch (m_place) {
-    case Place::Entity:
+    case Place::InEntity:
         takeEntity(reader);
         break;
-    case Place::Content:
+    case Place::InContent:
         takeContent(reader);
         break;
-    case Place::Branch:
+    case Place::InBranch:
         takeField(kBranch, reader, m_leader.branches.back());
         break;
-    case Place::Line:
+    case Place::InLine:
         takeField(kLine, reader, m_leader.branches.back().lines.back());
         break;
     }
