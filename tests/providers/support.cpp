@@ -16,11 +16,6 @@ class EnglishTexts : public testing::Environment
 
 [[maybe_unused]] const auto* const kTexts = testing::AddGlobalTestEnvironment(new EnglishTexts);
 
-std::string ascii(std::wstring_view text)
-{
-    return {text.begin(), text.end()};
-}
-
 void writeValue(std::ostream& out, const ResBuf& record)
 {
     switch (record.restype()) {
@@ -56,6 +51,11 @@ void writeValue(std::ostream& out, const ResBuf& record)
 }
 
 } // namespace
+
+std::string ascii(std::wstring_view text)
+{
+    return {text.begin(), text.end()};
+}
 
 std::string inWords(const ResBuf& record)
 {

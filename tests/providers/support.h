@@ -16,6 +16,9 @@
 
 namespace provider_test {
 
+/// A text whose characters are all ASCII.
+std::string ascii(std::wstring_view text);
+
 /// A record as its kind and its value in words: "5005 ByLayer", "48 2.5", "280 0".
 std::string inWords(const ResBuf& record);
 std::vector<std::string> inWords(const ResBuf* chain);
