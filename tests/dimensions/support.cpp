@@ -147,6 +147,21 @@ Answer DimensionTest::answer(DimensionKind kind, const wchar_t* key, bool asDisp
     return provider_test::ask(provider(kind), &dimension(kind), key, asDisplayText, withChoices);
 }
 
+void DimensionTest::expectOfAll(const wchar_t* key, const Words& expected, bool asDisplayText,
+                                bool withChoices)
+{
+    int kinds = 0;
+    for (const Kind& kind : kKinds) {
+        if (!isListed(kind.number, key))
+            continue;
+        ++kinds;
+        const Answer given = answer(kind.number, key, asDisplayText, withChoices);
+        EXPECT_EQ(given.status, 1) << kind.name;
+        EXPECT_EQ(given.chain, expected) << kind.name;
+    }
+    EXPECT_GT(kinds, 0);
+}
+
 Listing DimensionTest::listing(DimensionKind kind)
 {
     return provider_test::list(provider(kind), &dimension(kind));

@@ -51,6 +51,7 @@ class DimensionTest : public provider_test::ProviderTest
     /// Sets a variable apart from the style, on all dimensions.
     void set(KdDbDimVar variable, const KdDbDimValue& value);
     void set(KdDbDimVar variable, int value) { set(variable, KdDbDimValue(std::int32_t{value})); }
+    void set(KdDbDimVar variable, double value) { set(variable, KdDbDimValue(value)); }
     /// In the style.
     void setInStyle(KdDbDimVar variable, const KdDbDimValue& value);
     /// Takes the style away, for as long as the test runs.
@@ -67,6 +68,9 @@ class DimensionTest : public provider_test::ProviderTest
         return answer(DimensionKind::Aligned, key, asDisplayText, withChoices);
     }
     Listing listing(DimensionKind kind);
+    /// Each kind that lists the key must answer it so.
+    void expectOfAll(const wchar_t* key, const Words& expected, bool asDisplayText = false,
+                     bool withChoices = false);
 
     template <class Host, class Change>
     void changeAs(DimensionKind kind, Change apply)
