@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <database/dimension_style.h>
 #include <entities/line.h>
 
 #include "support.h"
