@@ -86,6 +86,53 @@ const ShapeRow kShapes[] = {
 INSTANTIATE_TEST_SUITE_P(Rows, HatchShapes, testing::ValuesIn(kShapes),
                          [](const auto& row) { return std::string(row.param.name); });
 
+HatchLoop splineOverItsChord(HatchSplineEdge spline)
+{
+    const std::vector<KdGePoint2d>& points =
+        spline.controlPoints.empty() ? spline.fitPoints : spline.controlPoints;
+    const HatchLineEdge chord{points.back(), points.front()};
+    return edges({std::move(spline), chord});
+}
+
+struct SplineRow
+{
+    const char* name;
+    HatchSplineEdge spline;
+    double area;
+    double highest;
+};
+
+class HatchSplines : public testing::TestWithParam<SplineRow>
+{
+};
+
+TEST_P(HatchSplines, HaveTheAreaAndTheReachOfTheirCurve)
+{
+    const auto hatch = hatchOf({splineOverItsChord(GetParam().spline)});
+    EXPECT_NEAR(areaOf(*hatch), GetParam().area, 1e-9);
+    KdGeExtents3d box;
+    ASSERT_EQ(hatch->getGeomExtents(box), eOk);
+    EXPECT_NEAR(box.maxPoint.y, GetParam().highest, 1e-9);
+}
+
+const SplineRow kSplines[] = {
+    // y = x (2 - x), of which 2/3 of base and height lie below
+    {"parabola", {2, {0, 0, 0, 1, 1, 1}, {{0, 0}, {1, 2}, {2, 0}}, {}, {}}, 4.0 / 3, 1},
+    {"circleOfWeights",
+     {2,
+      {0, 0, 0, 1, 1, 2, 2, 2},
+      {{3, 0}, {3, 3}, {0, 3}, {-3, 3}, {-3, 0}},
+      {1, std::sqrt(0.5), 1, std::sqrt(0.5), 1},
+      {}},
+     4.5 * kPi,
+     3},
+    {"throughPoints", {3, {}, {}, {}, {{0, 0}, {1, 1}, {2, 0}}}, 1.25, 1},
+    {"tooFewKnots", {3, {0, 1}, {{0, 0}, {2, 2}, {4, 0}}, {}, {}}, 4, 2},
+    {"absurdDegree", {1000000, {0, 1}, {{0, 0}, {2, 2}, {4, 0}}, {}, {}}, 4, 2},
+};
+INSTANTIATE_TEST_SUITE_P(Rows, HatchSplines, testing::ValuesIn(kSplines),
+                         [](const auto& row) { return std::string(row.param.name); });
+
 struct NestingRow
 {
     const char* name;

@@ -66,6 +66,22 @@ TEST(ExplodedPattern, MeetsArcsAndEllipsesWhereTheyAre)
         {{{-wide, -1, 0}, {wide, -1, 0}}, {{-4, 0, 0}, {4, 0, 0}}, {{-wide, 1, 0}, {wide, 1, 0}}});
 }
 
+TEST(ExplodedPattern, MeetsSplinesWhereTheyAre)
+{
+    // y = 4 t (1 - t), x = 4 t
+    const HatchSplineEdge parabola{2, {0, 0, 0, 1, 1, 1}, {{0, 0}, {2, 4}, {4, 0}}, {}, {}};
+    auto hatch = ruled({edges({parabola, HatchLineEdge{{4, 0}, {0, 0}}})});
+    hatch->edit().patternLines = {{0.0, {0, 0.5}, {0, 1}, {}}};
+    const double t = std::sqrt(1 - 0.25);
+    const double high = std::sqrt(1 - 0.75);
+    expectLines(*hatch, {{{2 - 2 * t, 0.5, 0}, {2 + 2 * t, 0.5, 0}},
+                         {{2 - 2 * high, 1.5, 0}, {2 + 2 * high, 1.5, 0}}});
+    // from above, the same curve from left to right: half as far from x = 1, 2 and 3 upwards
+    hatch->edit().patternLines = {{kPi / 2, {1, 0}, {-1, 0}, {}}};
+    expectLines(*hatch,
+                {{{3, 0, 0}, {3, 1.5, 0}}, {{2, 0, 0}, {2, 2, 0}}, {{1, 0, 0}, {1, 1.5, 0}}});
+}
+
 TEST(ExplodedPattern, TurnsWithItsAngle)
 {
     auto hatch = ruled({rectangle(0, 0, 2, 2)});
