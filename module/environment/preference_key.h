@@ -23,16 +23,19 @@ class KW_EXPORT PreferenceKey : public CRegKey
 {
   public:
     /// Opens a key below the profile, or makes it with `create`; whether that went well shows in
-    /// the handle. The key "Setup" of the current user lies beside the profiles and not in one.
+    /// the handle. The key "Setup" of the current user lies beside the profiles and not in one. The
+    /// remembered path of the profile stays as it was.
     PreferenceKey(HKEY root, const CStdStr<wchar_t>& subKey, bool create);
 
+    /// Does the opening, and remembers the path of the profile unless one is remembered already.
     void Init(HKEY root, const CStdStr<wchar_t>& subKey, bool create);
     /// `Init` for the profile that is current by now.
     void Reload(HKEY root, const CStdStr<wchar_t>& subKey, bool create);
-    /// Empties a key below the profile, with all keys in it, and opens it. Returns a registry
-    /// status; 0, too, if the profile itself can't be opened.
+    /// Empties a key below the remembered profile, with all keys in it, and opens it; while no path
+    /// is remembered, a key of the root itself. Returns a registry status; 0, too, if the profile
+    /// can't be opened.
     long FlushKey(HKEY root, const CStdStr<wchar_t>& subKey);
 
-    /// The registry path of the current profile; empty until it is first asked for.
+    /// The remembered registry path of the current profile; empty for none.
     static CStdStr<wchar_t> m_currentProfilePath;
 };

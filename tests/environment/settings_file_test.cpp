@@ -2,6 +2,8 @@
 
 #include <chrono>
 #include <csignal>
+#include <functional>
+#include <set>
 #include <thread>
 
 #include <sys/file.h>
@@ -307,8 +309,10 @@ TEST_F(SettingsFiles, WaitForAnotherWriter)
 }
 
 /// Counts `name` up in the file, with a text beside it that makes the file large enough to be
-/// caught half written.
-int countUp(const fs::path& path, const wchar_t* name, int times)
+/// caught half written. Calls `saved` after each save.
+int countUp(
+    const fs::path& path, const wchar_t* name, int times,
+    const std::function<void()>& saved = [] {})
 {
     SettingsFile settings(path);
     for (int i = 1; i <= times; ++i) {
@@ -316,6 +320,7 @@ int countUp(const fs::path& path, const wchar_t* name, int times)
         settings.set(std::wstring(name) + L"/echo", std::to_wstring(i) + std::wstring(20000, L'.'));
         if (settings.save() != SettingsStatus::Good)
             return 1;
+        saved();
     }
     return 0;
 }
@@ -353,18 +358,23 @@ TEST_F(SettingsFiles, AreWholeAfterAWriterWasKilled)
     SettingsFile before(path);
     before.set(L"kept", 1);
     ASSERT_EQ(before.save(), SettingsStatus::Good);
-    int killed = 0;
-    for (int i = 0; i < 150; ++i) {
-        const pid_t writer = inOtherProcess([&] { return countUp(path, L"count", 1 << 30); });
+    int saves[2] = {};
+    ASSERT_EQ(pipe(saves), 0);
+    const auto tell = [&] { EXPECT_EQ(::write(saves[1], "s", 1), 1); };
+    for (int i = 0; i < 100; ++i) {
+        const pid_t writer = inOtherProcess([&] { return countUp(path, L"count", 1 << 30, tell); });
+        char save = 0;
+        ASSERT_EQ(::read(saves[0], &save, 1), 1) << "the writer is at work";
         std::this_thread::sleep_for(std::chrono::microseconds(i * 97 % 8000));
         kill(writer, SIGKILL);
-        killed += endOf(writer) == -1;
+        EXPECT_EQ(endOf(writer), -1);
         const SettingsFile after = loaded();
         EXPECT_EQ(after.getInteger(L"kept"), 1);
         expectWhole(after, L"count");
     }
-    EXPECT_EQ(killed, 150);
-    EXPECT_NE(loaded().getInteger(L"count"), std::nullopt) << "no writer came to a save";
+    close(saves[0]);
+    close(saves[1]);
+    EXPECT_NE(loaded().getInteger(L"count"), std::nullopt);
     before.set(L"last", 1);
     EXPECT_EQ(before.save(), SettingsStatus::Good) << "no lock stays behind";
 }
