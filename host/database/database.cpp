@@ -7,6 +7,11 @@
 
 KdDbMemberSource::~KdDbMemberSource() = default;
 
+std::string_view KdDbMemberSource::bytes(SourceRange) const
+{
+    return {};
+}
+
 KdDbDatabase::KdDbDatabase(Content content)
 {
     KdDbObject* const tables[] = {

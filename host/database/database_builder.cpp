@@ -26,6 +26,19 @@ void KdDbDatabaseBuilder::setOwner(KdDbObject& object, KdDbObjectId owner)
     object.m_owner = owner;
 }
 
+void KdDbDatabaseBuilder::setHandle(KdDbObject& object, KdDbHandle handle)
+{
+    assert(object.m_handle == 0 && handle != 0);
+    object.m_handle = handle;
+    m_database.noteHandle(object);
+}
+
+void KdDbDatabaseBuilder::setSourceRange(KdDbObject& object, SourceRange source)
+{
+    object.m_sourceOffset = source.offset;
+    object.m_sourceLength = source.length;
+}
+
 void KdDbDatabaseBuilder::setNamedObjectsDictionary(KdDbObjectId id)
 {
     m_database.m_namedObjects = id;

@@ -16,6 +16,7 @@ constexpr double kQuarterTurn = std::numbers::pi / 2.0;
 constexpr KdGePoint3d kNowhere{0.0, 0.0, 0.0};
 constexpr KdGePoint3d kAlongX{1.0, 0.0, 0.0};
 constexpr KdGePoint3d kAlongY{0.0, 1.0, 0.0};
+constexpr KdGePoint3d kAlongZ{0.0, 0.0, 1.0};
 constexpr KdGePoint3d kEmptyMinimum{kEmptyExtent, kEmptyExtent, kEmptyExtent};
 constexpr KdGePoint3d kEmptyMaximum{-kEmptyExtent, -kEmptyExtent, -kEmptyExtent};
 constexpr KdGePoint3d kSmallSheet{12.0, 9.0, 0.0};
@@ -123,7 +124,20 @@ std::span<const KdDbHeaderVariable> table()
         {L"TDUPDATE", 40, 0.0}, {L"TDUUPDATE", 40, 0.0}, {L"TDINDWG", 40, 0.0},
         {L"TDUSRTIMER", 40, 0.0}, {L"USRTIMER", 70, 1}, {L"LASTSAVEDBY", 1, L""},
 
+        // Input; host programs of today keep these for themselves, drawings of old versions do not
+        {L"ATTDIA", 70, 1}, {L"ATTREQ", 70, 1}, {L"BLIPMODE", 70, 0}, {L"COORDS", 70, 1},
+        {L"DELOBJ", 70, 1}, {L"DRAGMODE", 70, 2}, {L"OSMODE", 70, 0}, {L"PICKSTYLE", 70, 1},
+        {L"AXISMODE", 70, 0}, {L"AXISUNIT", 10, kNowhere}, {L"GRIDMODE", 70, 0},
+        {L"GRIDUNIT", 10, kNowhere}, {L"SNAPMODE", 70, 0}, {L"SNAPUNIT", 10, kNowhere},
+        {L"SNAPBASE", 10, kNowhere}, {L"SNAPANG", 50, 0.0}, {L"SNAPSTYLE", 70, 0},
+        {L"SNAPISOPAIR", 70, 0}, {L"FASTZOOM", 70, 1}, {L"VIEWCTR", 10, kNowhere},
+        {L"VIEWDIR", 10, kAlongZ}, {L"VIEWSIZE", 40, 1.0}, {L"SAVEIMAGES", 70, 0},
+
+        // Handles of what is current
+        {L"CMATERIAL", 347, L""}, {L"INTERFEREOBJVS", 345, L""}, {L"INTERFEREVPVS", 346, L""},
+
         // The rest
+        {L"FINGERPRINTGUID", 2, L""}, {L"VERSIONGUID", 2, L""},
         {L"HYPERLINKBASE", 1, L""}, {L"STYLESHEET", 1, L""}, {L"PROJECTNAME", 1, L""},
         {L"MENU", 1, L"."}, {L"XEDIT", 290, 1}, {L"EXTNAMES", 290, 1}, {L"OLESTARTUP", 290, 0},
         {L"USERI1", 70, 0}, {L"USERI2", 70, 0}, {L"USERI3", 70, 0}, {L"USERI4", 70, 0},

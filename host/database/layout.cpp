@@ -2,7 +2,16 @@
 
 #include <database/database.h>
 
-KD_RX_DEFINE(KdDbLayout, KdDbObject, L"AcDbLayout", L"LAYOUT")
+KD_RX_DEFINE(KdDbPlotSettings, KdDbObject, L"AcDbPlotSettings", L"PLOTSETTINGS")
+KD_RX_DEFINE(KdDbLayout, KdDbPlotSettings, L"AcDbLayout", L"LAYOUT")
+
+KdDbObjectId KdDbLayout::lastActiveViewportId() const
+{
+    KdDbObjectId id;
+    if (database() && data().lastActiveViewport != 0)
+        database()->getObjectId(id, data().lastActiveViewport);
+    return id;
+}
 
 namespace {
 

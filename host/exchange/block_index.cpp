@@ -135,18 +135,29 @@ KdDbBlockTableRecord& BlockIndex::space(KdDbBlockTableRecord*& slot, const wchar
     return *slot;
 }
 
-KdDbBlockTableRecord& BlockIndex::blockOf(KdDbHandle owner, bool paper)
+KdDbBlockTableRecord& BlockIndex::blockOf(const StatedOwner& stated, bool paper)
 {
     if (m_open)
         return *m_open;
-    if (owner != m_lastOwner) {
-        KdDbBlockTableRecord* const record = byHandle(owner);
-        m_lastOwner = owner;
+    if (stated.owner != m_lastOwner) {
+        KdDbBlockTableRecord* const record = byHandle(stated.owner);
+        m_lastOwner = stated.owner;
         m_lastSpace = record && isSpace(*record) ? record : nullptr;
+        if (!record && stated.owner != 0)
+            m_unknownOwners.push_back(stated);
     }
-    if (m_lastSpace && owner != 0)
+    if (m_lastSpace && stated.owner != 0)
         return *m_lastSpace;
     return paper ? space(m_paper, kPaperSpaceName) : space(m_model, kModelSpaceName);
+}
+
+void BlockIndex::noteMissingOwners()
+{
+    for (const StatedOwner& stated : m_unknownOwners) {
+        KdDbObjectId owner;
+        if (m_source.database.getObjectId(owner, stated.owner) != eOk)
+            m_source.findings.add(DrawingFinding::OwnerIsMissing, stated.offset, {}, stated.entity);
+    }
 }
 
 } // namespace dxf

@@ -160,7 +160,8 @@ const ClassEntry& ClassTable::find(std::string_view recordName)
         return *m_last;
     auto seen = m_seen.find(recordName);
     if (seen == m_seen.end()) {
-        const auto known = m_known.find(std::string(recordName));
+        constexpr std::size_t kLongestName = 255; // in a damaged file it may be a gigabyte
+        const auto known = m_known.find(std::string(recordName.substr(0, kLongestName)));
         const ClassEntry* entry = known == m_known.end() ? &m_unknown : &known->second;
         seen = m_seen.emplace(recordName, entry).first;
     }

@@ -1,27 +1,60 @@
 #include <exchange/drawing_reader.h>
 
+#include <algorithm>
 #include <new>
+
+#include <entities/block_nesting.h>
 
 #include "index_pass.h"
 #include "member_source.h"
 
 namespace {
 
-constexpr double kIndexPart = 0.5; ///< of the work, where all members are read
+using Progress = std::function<bool(double)>;
 
-/// Reads the members of all objects; false if cancelled.
-bool readAllMembers(const KdDbDatabase& database, const ReadOptions& options)
+/// How much of the work is done once the file is in memory, and once it is indexed, where all
+/// members are read.
+constexpr double kFileIsRead = 0.1;
+constexpr double kFileIsIndexed = 0.5;
+
+/// `progress` for a part of the work that lies between two fractions of the whole.
+Progress partOf(const Progress& progress, double from, double to)
 {
-    constexpr std::size_t kObjectsBetweenReports = 16384;
+    if (!progress)
+        return {};
+    return [&progress, from, to](double done) { return progress(from + (to - from) * done); };
+}
+
+/// Reads the members of all objects; false if cancelled. Reports by the bytes that were read and by
+/// the number of objects, since both take their time.
+bool readAllMembers(const KdDbDatabase& database, std::size_t fileSize, const Progress& progress)
+{
+    constexpr std::size_t kBytesBetweenReports = 1u << 20;
+    constexpr std::size_t kObjectCost = 64; // counts as so many bytes
+    const std::size_t all = fileSize + kObjectCost * database.objects().size();
+    std::size_t done = 0;
+    std::size_t nextReport = 0;
     // Reading a member may add a record that was only referred to, so the end moves.
     for (std::size_t i = 0; i < database.objects().size(); ++i) {
-        const double done = static_cast<double>(i) / static_cast<double>(database.objects().size());
-        if (i % kObjectsBetweenReports == 0 && options.progress &&
-            !options.progress(kIndexPart + (1.0 - kIndexPart) * done))
-            return false;
-        database.objects()[i]->extensionDictionary(); // any member brings all
+        if (progress && done >= nextReport) {
+            if (!progress(static_cast<double>(std::min(done, all)) / static_cast<double>(all)))
+                return false;
+            nextReport = done + kBytesBetweenReports;
+        }
+        const KdDbObject& object = *database.objects()[i];
+        object.extensionDictionary(); // any member brings all
+        done += object.source().length + kObjectCost;
     }
     return true;
+}
+
+void noteLoops(const KdDbDatabase& database, dxf::Findings& findings)
+{
+    for (const KdDbObjectId id : kddbReferencesThatLoop(database)) {
+        const OpenForRead<KdDbEntity> reference(id);
+        findings.add(DrawingFinding::BlockHoldsItself, reference->source().offset, {},
+                     reference->handle());
+    }
 }
 
 KdErrorStatus cancelled(ReadReport& report)
@@ -30,34 +63,47 @@ KdErrorStatus cancelled(ReadReport& report)
     return eUserBreak;
 }
 
+KdErrorStatus open(const std::filesystem::path& file, dxf::DrawingSource& source,
+                   ReadReport& report, const Progress& progress)
+{
+    KdErrorStatus status = dxf::FileBytes::read(file, source.bytes, report.error, progress);
+    if (status == eOk)
+        status = dxf::recognise(source.bytes.view(), source.form, report.error);
+    report.binary = source.form.binary;
+    if (status == eOk && !report.binary)
+        source.findings.countLinesIn(source.form.bytes);
+    return status;
+}
+
 KdErrorStatus read(const std::filesystem::path& file, std::unique_ptr<KdDbDatabase>& database,
                    ReadReport& report, const ReadOptions& options)
 {
     auto result = std::make_unique<KdDbDatabase>(KdDbDatabase::Content::Bare);
     auto owned = std::make_unique<dxf::DrawingSource>(*result);
     dxf::DrawingSource& source = *owned;
-    KdErrorStatus status = dxf::FileBytes::read(file, source.bytes, report.error);
-    if (status == eOk)
-        status = dxf::recognise(source.bytes.view(), source.form, report.error);
+    source.findings.tellTo(options.found);
+    const Progress& progress = options.progress;
+    const KdErrorStatus status = open(file, source, report, partOf(progress, 0.0, kFileIsRead));
     if (status != eOk)
         return status;
-    report.binary = source.form.binary;
-    if (!report.binary)
-        source.findings.countLinesIn(source.form.bytes);
 
-    const double part = options.readAllMembers ? kIndexPart : 1.0;
-    dxf::RecordCursor::Progress progress;
-    if (options.progress)
-        progress = [&](double fraction) { return options.progress(part * fraction); };
-    dxf::IndexPass pass(source, report, progress);
+    const double indexed = options.readAllMembers ? kFileIsIndexed : 1.0;
+    const Progress indexing = partOf(progress, kFileIsRead, indexed);
+    dxf::IndexPass pass(source, report, indexing);
     if (!pass.run())
         return cancelled(report);
     KdDbDatabaseBuilder(*result).setSource(std::make_unique<dxf::MemberSource>(std::move(owned)));
     pass.finish();
-    if (options.readAllMembers && !readAllMembers(*result, options))
+    if (options.readAllMembers) {
+        if (!readAllMembers(*result, source.bytes.size(), partOf(progress, indexed, 1.0)))
+            return cancelled(report);
+        noteLoops(*result, source.findings);
+    }
+    if (progress && !progress(1.0))
         return cancelled(report);
     report.findings = source.findings.kept();
     report.totalFindings = source.findings.total();
+    report.complete = !source.findings.loseContent();
     database = std::move(result);
     return eOk;
 }

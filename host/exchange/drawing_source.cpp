@@ -12,7 +12,7 @@ KdDbObjectId DrawingSource::block(const Group& name)
     const KdString text = decoder.decode(name.text);
     KdDbObjectId id;
     if (database.table<KdDbBlockTable>().getIdAt(text.kwszPtr(), id) != eOk)
-        findings.add(DrawingFinding::UndefinedBlock, name.offset, text);
+        findings.add(DrawingFinding::UndefinedBlock, name.offset, text, reading);
     blocks.emplace(name.text, id);
     return id;
 }

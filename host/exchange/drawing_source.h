@@ -29,7 +29,7 @@ class NamedRecords
   public:
     /// The record of that name. One that is not there is made with its defaults, which is noted.
     KdDbObjectId find(KdDbDatabase& database, const TextDecoder& decoder, Findings& findings,
-                      DrawingFinding missing, const Group& name)
+                      DrawingFinding missing, const Group& name, KdDbHandle user)
     {
         const auto known = m_ids.find(name.text);
         if (known != m_ids.end())
@@ -37,7 +37,7 @@ class NamedRecords
         const KdString text = decoder.decode(name.text);
         KdDbObjectId id;
         if (database.table<Table>().getIdAt(text.kwszPtr(), id) != eOk) {
-            findings.add(missing, name.offset, text);
+            findings.add(missing, name.offset, text, user);
             id = database.addRecord<Table>(text)->objectId();
         }
         m_ids.emplace(name.text, id);
@@ -54,11 +54,13 @@ struct DrawingSource
 
     KdDbObjectId linetype(const Group& name)
     {
-        return linetypes.find(database, decoder, findings, DrawingFinding::UndefinedLinetype, name);
+        return linetypes.find(database, decoder, findings, DrawingFinding::UndefinedLinetype, name,
+                              reading);
     }
     KdDbObjectId textStyle(const Group& name)
     {
-        return textStyles.find(database, decoder, findings, DrawingFinding::UndefinedStyle, name);
+        return textStyles.find(database, decoder, findings, DrawingFinding::UndefinedStyle, name,
+                               reading);
     }
     KdDbObjectId dimensionStyle(const Group& name)
     {
@@ -69,15 +71,17 @@ struct DrawingSource
     KdDbObjectId block(const Group& name);
     /// The viewport that comes first in a block.
     KdDbObjectId firstViewport(KdDbObjectId block);
-    GroupStream groups(SourceRange range)
+    /// The groups of a record. What is wrong with their codes was noted by the index pass.
+    GroupStream groups(SourceRange range) const
     {
-        return {form, range.offset, range.offset + range.length, &findings};
+        return {form, range.offset, range.offset + range.length, nullptr};
     }
 
     KdDbDatabase& database;
     FileBytes bytes;
     FileForm form;
-    int version = 1009; ///< the number in the version's name
+    KdDbHandle reading = 0; ///< of the object whose members are being read
+    int version = 1009;     ///< the number in the version's name
     TextDecoder decoder;
     Findings findings;
     std::vector<ForeignClass> classes; ///< in the order of the file

@@ -8,7 +8,7 @@
 
 namespace dxf {
 
-KdDbObjectId LayerNames::lookUp(std::string_view name, std::uint64_t offset)
+KdDbObjectId LayerNames::lookUp(std::string_view name, std::uint64_t offset, KdDbHandle handle)
 {
     const auto known = m_ids.find(name);
     if (known != m_ids.end())
@@ -19,7 +19,7 @@ KdDbObjectId LayerNames::lookUp(std::string_view name, std::uint64_t offset)
     if (table.getIdAt(text.kwszPtr(), id) != eOk) {
         // Layer "0" is in every drawing and need not be defined.
         if (text.compare(L"0") != 0)
-            m_source.findings.add(DrawingFinding::UndefinedLayer, offset, text);
+            m_source.findings.add(DrawingFinding::UndefinedLayer, offset, text, handle);
         id = m_maker.findOrMake<KdDbLayerTable>(text)->objectId();
     }
     m_ids.emplace(name, id);
@@ -124,10 +124,11 @@ bool EntityIndex::belongsToParent(const KdRxClass* rxClass) const
            (toBlock ? rxClass == m_attributeClass : rxClass->isDerivedFrom(m_vertexClass));
 }
 
-void EntityIndex::noteUnknown(std::string_view name, std::uint64_t offset)
+void EntityIndex::noteUnknown(std::string_view name, const Head& head)
 {
     ++m_report.unknownEntities;
-    m_source.findings.add(DrawingFinding::UnknownEntity, offset, m_source.decoder.decode(name));
+    m_source.findings.add(DrawingFinding::UnknownEntity, head.offset, m_source.decoder.decode(name),
+                          head.handle.value);
 }
 
 void EntityIndex::readEntity(RecordCursor& cursor)
@@ -139,11 +140,11 @@ void EntityIndex::readEntity(RecordCursor& cursor)
     head.hints.parent = m_parent ? m_parent->isA() : nullptr;
     readHead(cursor, entry, head);
     if (entry.isUnknown())
-        noteUnknown(name, head.offset);
+        noteUnknown(name, head);
     const SourceRange range = cursor.rangeFrom(head.offset, m_source.findings);
     auto* entity =
         static_cast<KdDbEntity*>(m_maker.make(entry.decide(head.hints), head.handle, range));
-    entity->setLayer(m_layers.find(head.layer, head.offset));
+    entity->setLayer(m_layers.find(head.layer, head.offset, head.handle.value));
     place(*entity, head, entry.hasParts());
 }
 
@@ -157,12 +158,13 @@ void EntityIndex::place(KdDbEntity& entity, const Head& head, bool hasParts)
             m_parent = nullptr;
         return;
     }
-    KdDbBlockTableRecord& block = m_blocks.blockOf(head.owner, head.paper);
+    KdDbBlockTableRecord& block =
+        m_blocks.blockOf({head.owner, head.offset, head.handle.value}, head.paper);
     m_maker.builder().setOwner(entity, block.objectId());
     const bool isPart = rxClass == m_sequenceEndClass || rxClass == m_attributeClass ||
                         rxClass->isDerivedFrom(m_vertexClass);
     if (isPart) { // it is kept, but no block shows it
-        m_source.findings.add(DrawingFinding::PartWithoutParent, head.offset);
+        m_source.findings.add(DrawingFinding::PartWithoutParent, head.offset, {}, entity.handle());
         return;
     }
     ++m_report.entities;

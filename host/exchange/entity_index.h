@@ -14,17 +14,18 @@ class LayerNames
   public:
     LayerNames(DrawingSource& source, ObjectMaker& maker) : m_source(source), m_maker(maker) {}
 
-    KdDbObjectId find(std::string_view name, std::uint64_t offset)
+    /// `offset` and `handle` are those of the entity that names the layer.
+    KdDbObjectId find(std::string_view name, std::uint64_t offset, KdDbHandle handle)
     {
         if (name != m_lastName || m_last.isNull()) {
-            m_last = lookUp(name, offset);
+            m_last = lookUp(name, offset, handle);
             m_lastName = name;
         }
         return m_last;
     }
 
   private:
-    KdDbObjectId lookUp(std::string_view name, std::uint64_t offset);
+    KdDbObjectId lookUp(std::string_view name, std::uint64_t offset, KdDbHandle handle);
 
     DrawingSource& m_source;
     ObjectMaker& m_maker;
@@ -51,7 +52,7 @@ class EntityIndex
     void takeHint(const Group& group, const ClassEntry& entry, Head& head) const;
     bool belongsToParent(const KdRxClass* rxClass) const;
     void place(KdDbEntity& entity, const Head& head, bool hasParts);
-    void noteUnknown(std::string_view name, std::uint64_t offset);
+    void noteUnknown(std::string_view name, const Head& head);
 
     DrawingSource& m_source;
     ObjectMaker& m_maker;

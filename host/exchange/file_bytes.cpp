@@ -88,6 +88,7 @@ FileBytes& FileBytes::operator=(FileBytes&& other) noexcept
     std::swap(m_data, other.m_data);
     std::swap(m_size, other.m_size);
     std::swap(m_reserved, other.m_reserved);
+    std::swap(m_file, other.m_file);
     return *this;
 }
 
@@ -99,8 +100,10 @@ FileBytes FileBytes::copyOf(std::string_view text)
     return bytes;
 }
 
-KdErrorStatus FileBytes::read(const std::filesystem::path& file, FileBytes& bytes, KdString& error)
+KdErrorStatus FileBytes::read(const std::filesystem::path& file, FileBytes& bytes, KdString& error,
+                              const Progress& progress)
 {
+    constexpr std::size_t kMostAtOnce = std::size_t{32} << 20;
     const Descriptor descriptor(file);
     if (!descriptor.isOpen())
         return fail(error, reasonOf(errno));
@@ -116,8 +119,13 @@ KdErrorStatus FileBytes::read(const std::filesystem::path& file, FileBytes& byte
     FileBytes result(static_cast<std::size_t>(status.st_size));
     const std::size_t wanted = static_cast<std::size_t>(status.st_size);
     while (result.m_size < wanted) {
-        const ssize_t got =
-            ::read(descriptor.number(), result.m_data + result.m_size, wanted - result.m_size);
+        const double done = static_cast<double>(result.m_size) / static_cast<double>(wanted);
+        if (progress && !progress(done)) {
+            error = L"Reading was cancelled.";
+            return eUserBreak;
+        }
+        const ssize_t got = ::read(descriptor.number(), result.m_data + result.m_size,
+                                   std::min(wanted - result.m_size, kMostAtOnce));
         if (got < 0 && errno == EINTR)
             continue;
         if (got < 0)
@@ -126,6 +134,7 @@ KdErrorStatus FileBytes::read(const std::filesystem::path& file, FileBytes& byte
             break;
         result.m_size += static_cast<std::size_t>(got);
     }
+    result.m_file = {status.st_dev, status.st_ino};
     bytes = std::move(result);
     return eOk;
 }

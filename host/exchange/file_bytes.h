@@ -2,13 +2,24 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <string_view>
 
 #include <runtime/kd_string.h>
 #include <runtime/status.h>
 
 namespace dxf {
+
+/// Tells files apart, whatever their names.
+struct FileIdentity
+{
+    std::uint64_t device = 0;
+    std::uint64_t number = 0; ///< 0: no file
+
+    bool operator==(const FileIdentity&) const = default;
+};
 
 /// A file read into memory whole. A mapped file would end the process when another one cuts it
 /// short, and would give other members on each first use when it changes; a copy does neither, and
@@ -21,8 +32,12 @@ class FileBytes
     FileBytes(FileBytes&& other) noexcept;
     FileBytes& operator=(FileBytes&& other) noexcept;
 
-    /// Reads a file. On failure `bytes` is untouched and `error` says why, for the user.
-    static KdErrorStatus read(const std::filesystem::path& file, FileBytes& bytes, KdString& error);
+    /// Called now and then with the part that is read; answering false cancels.
+    using Progress = std::function<bool(double)>;
+    /// Reads a file. On failure `bytes` is untouched and `error` says why, for the user;
+    /// `eUserBreak` when cancelled.
+    static KdErrorStatus read(const std::filesystem::path& file, FileBytes& bytes, KdString& error,
+                              const Progress& progress = {});
     /// A copy of `text`.
     static FileBytes copyOf(std::string_view text);
 
@@ -30,6 +45,8 @@ class FileBytes
     const char* data() const { return m_data; }
     std::size_t size() const { return m_size; }
     std::string_view view() const { return {m_data, m_size}; }
+    /// The file that the bytes came from; no file for a copy.
+    const FileIdentity& file() const { return m_file; }
 
   private:
     explicit FileBytes(std::size_t capacity);
@@ -37,6 +54,7 @@ class FileBytes
     char* m_data = nullptr;
     std::size_t m_size = 0;
     std::size_t m_reserved = 0;
+    FileIdentity m_file;
 };
 
 } // namespace dxf

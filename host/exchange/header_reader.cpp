@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <limits>
 #include <numbers>
+#include <span>
+#include <utility>
 #include <vector>
 
 #include "group_values.h"
@@ -85,12 +87,58 @@ KdDbHeaderValue valueOf(const Variable& variable, const KdDbHeaderValue& like,
     return pointValue(variable.values, good);
 }
 
+/// Names that variables had in old versions.
+struct OldName
+{
+    std::string_view old;
+    std::wstring_view name;
+};
+
+constexpr OldName kOldNames[] = {{"UCSXORI", L"UCSXDIR"}, {"UCSYORI", L"UCSYDIR"}};
+
+int indexOf(std::string_view name, const TextDecoder& decoder)
+{
+    const auto* old = std::ranges::find(kOldNames, name, &OldName::old);
+    return KdDbHeaderVariables::indexOf(old != std::end(kOldNames) ? KdString(old->name)
+                                                                   : decoder.decode(name));
+}
+
+/// A variable of R13 and R14 that two later ones stand for.
+struct SplitVariable
+{
+    std::string_view old;
+    const wchar_t* first;
+    const wchar_t* second;
+    std::span<const std::pair<int, int>> values; ///< by the old value
+};
+
+constexpr std::pair<int, int> kUnits[] = {{2, 0}, {1, 0}, {2, 0}, {3, 0}, {4, 0},
+                                          {5, 0}, {4, 2}, {5, 2}, {6, 0}};
+constexpr std::pair<int, int> kFits[] = {{0, 0}, {1, 0}, {2, 0}, {3, 0}, {3, 1}, {3, 2}};
+constexpr SplitVariable kSplitVariables[] = {{"DIMUNIT", L"DIMLUNIT", L"DIMFRAC", kUnits},
+                                             {"DIMFIT", L"DIMATFIT", L"DIMTMOVE", kFits}};
+
+bool storeSplit(std::string_view name, const Group& value, KdDbHeaderVariables& header)
+{
+    const auto* row = std::ranges::find(kSplitVariables, name, &SplitVariable::old);
+    if (row == std::end(kSplitVariables))
+        return false;
+    const std::int64_t number = looseIntegerOf(value);
+    if (number >= 0 && number < static_cast<std::int64_t>(row->values.size())) {
+        const auto& [first, second] = row->values[static_cast<std::size_t>(number)];
+        header.setValue(KdDbHeaderVariables::indexOf(row->first), first);
+        header.setValue(KdDbHeaderVariables::indexOf(row->second), second);
+    }
+    return true;
+}
+
 void store(const Variable& variable, DrawingSource& source)
 {
     const std::string_view name = trimmed(variable.name.text);
-    if (variable.values.empty() || !name.starts_with('$'))
+    if (variable.values.empty() || !name.starts_with('$') ||
+        storeSplit(name.substr(1), variable.values.front(), source.database.header()))
         return;
-    const int index = KdDbHeaderVariables::indexOf(source.decoder.decode(name.substr(1)));
+    const int index = indexOf(name.substr(1), source.decoder);
     if (index < 0)
         return;
     KdDbHeaderVariables& header = source.database.header();
@@ -110,6 +158,15 @@ int numberOfVersion(std::string_view version)
     const bool isUsual = version.starts_with("AC") && version.size() == 6 &&
                          parseInteger(version.substr(2), number) == NumberState::Good;
     return isUsual ? static_cast<int>(number) : 0;
+}
+
+/// The first versions were numbered with a point; the last one known is that of R2018.
+bool isKnownVersion(std::string_view version)
+{
+    constexpr int kLast = 1032;
+    const int number = numberOfVersion(version);
+    const bool isOfTheFirst = version.size() > 3 && version.find('.') == 3;
+    return (number > 0 && number <= kLast) || isOfTheFirst;
 }
 
 /// Some writers put UTF-8 into old versions. Text of another page hardly ever looks like it by
@@ -145,11 +202,14 @@ void chooseEncoding(DrawingSource& source, std::string_view codePage, std::uint6
 void readHeader(RecordCursor& cursor, DrawingSource& source, KdString& version)
 {
     const std::vector<Variable> variables = collect(cursor);
-    const std::string_view stated = textOf(find(variables, "$ACADVER"));
+    const Variable* stating = find(variables, "$ACADVER");
+    const std::string_view stated = textOf(stating);
     const Variable* codePage = find(variables, "$DWGCODEPAGE");
     if (!stated.empty()) {
         version = source.decoder.decode(stated);
         source.version = numberOfVersion(stated);
+        if (!isKnownVersion(stated))
+            source.findings.add(DrawingFinding::UnknownVersion, stating->name.offset, version);
     }
     chooseEncoding(source, textOf(codePage), codePage ? codePage->name.offset : cursor.offset());
     for (const Variable& variable : variables)

@@ -1,8 +1,17 @@
 #include "index_pass.h"
 
+#include <algorithm>
+#include <iterator>
+
 #include "member_source.h"
 
 namespace dxf {
+namespace {
+
+// Sections of which nothing is asked here.
+constexpr std::string_view kUnusedSections[] = {"THUMBNAILIMAGE"};
+
+} // namespace
 
 IndexPass::IndexPass(DrawingSource& source, ReadReport& report,
                      const RecordCursor::Progress& progress)
@@ -20,7 +29,6 @@ IndexPass::IndexPass(DrawingSource& source, ReadReport& report,
 bool IndexPass::run()
 {
     m_report.version = KdString(std::wstring(kOldVersion.begin(), kOldVersion.end()));
-    m_report.complete = true;
     m_cursor.toNextRecord();
     while (m_cursor.atRecord() && !m_cursor.isAt("EOF")) {
         m_cursor.report();
@@ -35,13 +43,13 @@ bool IndexPass::run()
         return false;
     if (!m_cursor.isAt("EOF")) {
         m_source.findings.add(DrawingFinding::NoEndOfFile, m_cursor.offset());
-        m_report.complete = false;
     }
     return true;
 }
 
 void IndexPass::readSection()
 {
+    const std::uint64_t begin = m_cursor.offset();
     std::string_view name;
     if (m_cursor.nextInRecord() && m_cursor.group().code == 2)
         name = trimmed(m_cursor.group().text);
@@ -49,7 +57,7 @@ void IndexPass::readSection()
         settleEncoding();
     if (name != "HEADER" && name != "CLASSES")
         m_cursor.toRecord();
-    readContent(name);
+    readContent(name, begin);
     m_entities.forgetParent();
     m_blocks.end();
     while (!m_cursor.atSectionEnd()) {
@@ -59,7 +67,7 @@ void IndexPass::readSection()
     endSection();
 }
 
-void IndexPass::readContent(std::string_view name)
+void IndexPass::readContent(std::string_view name, std::uint64_t begin)
 {
     if (name == "HEADER") {
         readHeader(m_cursor, m_source, m_report.version);
@@ -76,6 +84,8 @@ void IndexPass::readContent(std::string_view name)
         m_objects.read(m_cursor);
     } else if (name == "ACDSDATA") {
         m_source.bodies.setSection(m_cursor.offset());
+    } else if (std::ranges::find(kUnusedSections, name) == std::end(kUnusedSections)) {
+        m_source.findings.add(DrawingFinding::UnknownSection, begin, m_source.decoder.decode(name));
     }
 }
 
@@ -85,7 +95,6 @@ void IndexPass::endSection()
         m_cursor.toNextRecord();
     } else if (!m_cursor.isCancelled()) {
         m_source.findings.add(DrawingFinding::SectionNotClosed, m_cursor.offset());
-        m_report.complete = false;
     }
 }
 
@@ -148,6 +157,7 @@ void IndexPass::readEntities()
 void IndexPass::finish()
 {
     m_objects.tie();
+    m_blocks.noteMissingOwners();
     // Blocks say which of them have layouts; the other records may name standard ones.
     readDefinitions(true);
     m_maker.builder().finish();

@@ -21,7 +21,7 @@ class IndexPass
 
   private:
     void readSection();
-    void readContent(std::string_view name);
+    void readContent(std::string_view name, std::uint64_t begin);
     void readClasses();
     void readBlocks();
     void readEntities();

@@ -53,6 +53,12 @@ class ReaderMap
 
 } // namespace
 
+std::string_view MemberSource::bytes(SourceRange range) const
+{
+    const std::string_view all = m_source->bytes.view();
+    return range.offset < all.size() ? all.substr(range.offset, range.length) : std::string_view();
+}
+
 void readMembers(DrawingSource& source, const KdDbObject& object, SourceRange range,
                  ObjectMembers& members)
 {

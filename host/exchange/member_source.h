@@ -21,6 +21,9 @@ class MemberSource : public KdDbMemberSource
         dxf::readMembers(*m_source, object, object.source(), members);
     }
 
+    std::string_view bytes(SourceRange range) const override;
+    const DrawingSource& drawing() const { return *m_source; }
+
   private:
     std::unique_ptr<DrawingSource> m_source;
 };

@@ -1,5 +1,7 @@
 #include "object_index.h"
 
+#include <limits>
+
 #include "group_values.h"
 #include "proxy_object.h"
 
@@ -51,11 +53,36 @@ void ObjectIndex::tie()
 {
     for (const Pending& pending : m_pending) {
         KdDbObjectId owner;
-        if (pending.owner != 0 && m_source.database.getObjectId(owner, pending.owner) == eOk)
+        if (pending.owner == 0)
+            continue;
+        if (m_source.database.getObjectId(owner, pending.owner) == eOk)
             m_maker.builder().setOwner(*pending.object, owner);
+        else
+            m_source.findings.add(DrawingFinding::OwnerIsMissing, pending.object->source().offset,
+                                  {}, pending.object->handle());
     }
     for (const KdDbLayout* layout : m_layouts)
         tieLayout(*layout);
+    chooseActiveSheet();
+}
+
+void ObjectIndex::chooseActiveSheet()
+{
+    // The active layout's block has the plain name. Where it is missing, the first layout serves.
+    KdDbDatabase& database = m_source.database;
+    KdDbObjectId sheet;
+    int least = std::numeric_limits<int>::max();
+    if (database.table<KdDbBlockTable>().getIdAt(kPaperSpaceName, sheet) != eOk) {
+        for (const KdDbLayout* layout : m_layouts) {
+            const KdDbObjectId block = layout->getBlockTableRecordId();
+            const bool isSheet = !block.isNull() && block != database.modelSpaceId();
+            if (isSheet && layout->getTabOrder() < least) {
+                least = layout->getTabOrder();
+                sheet = block;
+            }
+        }
+    }
+    database.setActiveSheet(sheet);
 }
 
 void ObjectIndex::tieLayout(const KdDbLayout& layout)

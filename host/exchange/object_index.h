@@ -29,6 +29,7 @@ class ObjectIndex
 
     void readObject(RecordCursor& cursor);
     void tieLayout(const KdDbLayout& layout);
+    void chooseActiveSheet();
 
     DrawingSource& m_source;
     ObjectMaker& m_maker;

@@ -20,14 +20,29 @@ void StatedHandle::take(const Group& group)
 KdDbObject* ObjectMaker::make(const KdRxClass* rxClass, const StatedHandle& handle,
                               SourceRange range)
 {
-    KdDbHandle used = handle.value;
-    if (used == 0 && handle.isThere) {
+    return m_builder.make(rxClass, usable(handle, range), range);
+}
+
+KdDbHandle ObjectMaker::usable(const StatedHandle& handle, SourceRange range)
+{
+    constexpr int kFirstWithHandles = 1012; // before, a drawing may do without
+    if (handle.value != 0) {
+        if (m_handles.insert(handle.value))
+            return handle.value;
+        m_source.findings.add(DrawingFinding::HandleIsDoubled, range.offset, {}, handle.value);
+    } else if (handle.isThere) {
         m_source.findings.add(DrawingFinding::HandleIsZero, range.offset);
-    } else if (used != 0 && !m_handles.insert(used)) {
-        m_source.findings.add(DrawingFinding::HandleIsDoubled, range.offset);
-        used = 0;
+    } else if (range.length > 0 && m_source.version >= kFirstWithHandles) {
+        m_source.findings.add(DrawingFinding::HandleIsMissing, range.offset);
     }
-    return m_builder.make(rxClass, used, range);
+    return 0;
+}
+
+void ObjectMaker::identify(KdDbObject& object, const StatedHandle& handle, SourceRange range)
+{
+    m_builder.setSourceRange(object, range);
+    if (const KdDbHandle used = usable(handle, range))
+        m_builder.setHandle(object, used);
 }
 
 KdDbSymbolTableRecord* ObjectMaker::find(const KdDbSymbolTable& table, const KdString& name) const
@@ -55,12 +70,14 @@ KdDbSymbolTableRecord* ObjectMaker::define(KdDbSymbolTable& table, const KdRxCla
                                            SourceRange range)
 {
     KdDbSymbolTableRecord* existing = find(table, name);
-    if (existing && m_undefined.erase(existing) > 0)
+    if (existing && m_undefined.erase(existing) > 0) {
+        identify(*existing, handle, range);
         return existing;
+    }
     // The active views all have one name, and shape files none.
     const bool mayRepeat = name.isEmpty() || recordClass == KdDbViewportTableRecord::desc();
     if (existing && !mayRepeat)
-        m_source.findings.add(DrawingFinding::DoubledName, range.offset, name);
+        m_source.findings.add(DrawingFinding::DoubledName, range.offset, name, handle.value);
     return add(table, recordClass, name, handle, range);
 }
 

@@ -27,6 +27,9 @@ class ObjectMaker
     /// missing, 0 or in use.
     KdDbObject* make(const KdRxClass* rxClass, const StatedHandle& handle, SourceRange range);
 
+    /// Gives an object that was only referred to so far the handle and the place of its record.
+    void identify(KdDbObject& object, const StatedHandle& handle, SourceRange range);
+
     /// A record in a table. One that was only referred to so far becomes the defined one. A second
     /// definition of a name is noted and becomes a record besides.
     KdDbSymbolTableRecord* define(KdDbSymbolTable& table, const KdRxClass* recordClass,
@@ -57,6 +60,8 @@ class ObjectMaker
     KdDbDatabaseBuilder& builder() { return m_builder; }
 
   private:
+    KdDbHandle usable(const StatedHandle& handle, SourceRange range);
+
     DrawingSource& m_source;
     KdDbDatabaseBuilder m_builder;
     HandleSet m_handles;

@@ -17,7 +17,7 @@ SourceRange RecordCursor::rangeFrom(std::uint64_t begin, Findings& findings) con
 
 void RecordCursor::reportNow()
 {
-    constexpr std::uint64_t kBytesBetweenReports = 4u << 20;
+    constexpr std::uint64_t kBytesBetweenReports = 1u << 20;
     m_nextReport = offset() + kBytesBetweenReports;
     const double done = static_cast<double>(offset() - m_begin);
     const double all = static_cast<double>(m_end - m_begin + 1);

@@ -13,7 +13,6 @@ namespace dxf {
 namespace {
 
 constexpr std::string_view kEntitySubclass = "AcDbEntity";
-constexpr std::size_t kLongestText = 1 << 20;
 
 /// Parts in which the codes of general properties have other meanings. In all others they mean the
 /// same as in the general part, where some writers do not put them.
@@ -49,10 +48,17 @@ RecordReader::RecordReader(DrawingSource& source, const KdDbObject& object, Sour
       m_object(object),
       m_members(members),
       m_entity(entityPart(object, members)),
-      m_groups(source.groups(range))
+      m_groups(source.groups(range)),
+      m_readBefore(source.reading)
 {
+    m_source.reading = object.handle();
     if (advance() && m_group.code == 0)
         m_recordName = trimmed(m_group.text);
+}
+
+RecordReader::~RecordReader()
+{
+    m_source.reading = m_readBefore;
 }
 
 bool RecordReader::advance()
@@ -230,7 +236,7 @@ bool RecordReader::takeProperty()
 
 void RecordReader::note(DrawingFinding kind, std::wstring_view detail)
 {
-    m_source.findings.add(kind, m_group.offset, detail);
+    m_source.findings.add(kind, m_group.offset, detail, m_object.handle());
 }
 
 void RecordReader::noteState(NumberState state)
@@ -273,9 +279,9 @@ std::int16_t RecordReader::shortInteger()
 
 KdString RecordReader::text()
 {
-    if (m_group.text.size() > kLongestText)
+    if (m_group.text.size() > TextDecoder::kLongestText)
         note(DrawingFinding::TextTooLong);
-    return m_source.decoder.decode(m_group.text.substr(0, kLongestText));
+    return m_source.decoder.decode(m_group.text);
 }
 
 KdDbHandle RecordReader::handle()

@@ -26,6 +26,9 @@ class RecordReader
     /// Reads `range` into `members`, the record of `object`.
     RecordReader(DrawingSource& source, const KdDbObject& object, SourceRange range,
                  ObjectMembers& members);
+    ~RecordReader();
+    RecordReader(const RecordReader&) = delete;
+    RecordReader& operator=(const RecordReader&) = delete;
 
     /// Steps to the next group that is the reader's; false at the end of the record.
     bool next();
@@ -87,6 +90,7 @@ class RecordReader
     EntityMembers* m_entity; ///< the same record if it is an entity's, else null
     GroupStream m_groups;
     Group m_group;
+    KdDbHandle m_readBefore; ///< one object's members may ask for another's
     std::string_view m_recordName;
     std::string_view m_subclass;
     double m_elevation = 0.0;

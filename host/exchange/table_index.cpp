@@ -36,6 +36,15 @@ constexpr TableRow kTables[] = {
     rowOf<KdDbViewportTable>("VPORT"),
 };
 
+// Tables of which nothing is asked here.
+constexpr std::string_view kUnusedTables[] = {"VIEW", "VX"};
+
+const TableRow* findRow(std::string_view name)
+{
+    const auto* row = std::ranges::find(kTables, name, &TableRow::entryName);
+    return row == std::end(kTables) ? nullptr : row;
+}
+
 /// What names a table entry.
 struct EntryHead
 {
@@ -73,7 +82,10 @@ void TableIndex::read(RecordCursor& cursor)
             if (opens && isOpen)
                 m_source.findings.add(DrawingFinding::TableNotClosed, cursor.offset());
             isOpen = opens;
-            cursor.toNextRecord();
+            if (opens)
+                readTable(cursor);
+            else
+                cursor.toNextRecord();
         } else {
             readEntry(cursor);
         }
@@ -82,11 +94,32 @@ void TableIndex::read(RecordCursor& cursor)
         m_source.findings.add(DrawingFinding::TableNotClosed, cursor.offset());
 }
 
+void TableIndex::readTable(RecordCursor& cursor)
+{
+    const std::uint64_t begin = cursor.offset();
+    StatedHandle handle;
+    const TableRow* row = nullptr;
+    while (cursor.nextInRecord()) {
+        if (cursor.group().code == 2 && !row)
+            row = findRow(trimmed(cursor.group().text));
+        else if (cursor.group().code == 5)
+            handle.take(cursor.group());
+    }
+    if (!row || !handle.isThere)
+        return; // up to R12 tables have no handles
+    KdDbSymbolTable& table = row->table(m_source.database);
+    if (table.handle() == 0)
+        m_maker.identify(table, handle, cursor.rangeFrom(begin, m_source.findings));
+}
+
 void TableIndex::readEntry(RecordCursor& cursor)
 {
     // The entry says what it is, also in a table that does not.
-    const auto* row = std::ranges::find(kTables, cursor.name(), &TableRow::entryName);
-    if (row == std::end(kTables)) {
+    const TableRow* row = findRow(cursor.name());
+    if (!row) {
+        if (std::ranges::find(kUnusedTables, cursor.name()) == std::end(kUnusedTables))
+            m_source.findings.add(DrawingFinding::UnknownTable, cursor.offset(),
+                                  m_source.decoder.decode(cursor.name()));
         cursor.toNextRecord();
         return;
     }
@@ -99,7 +132,7 @@ void TableIndex::readEntry(RecordCursor& cursor)
     if (isBlock)
         head.name = standardBlockName(head.name, m_source.version);
     if (head.name.isEmpty() && !mayBeNameless) {
-        m_source.findings.add(DrawingFinding::MissingName, begin);
+        m_source.findings.add(DrawingFinding::MissingName, begin, {}, head.handle.value);
         head.name = m_maker.freeName(table);
     }
     KdDbSymbolTableRecord* record =

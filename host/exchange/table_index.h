@@ -29,6 +29,7 @@ class TableIndex
     const std::vector<Definition>& definitions() const { return m_definitions; }
 
   private:
+    void readTable(RecordCursor& cursor);
     void readEntry(RecordCursor& cursor);
 
     DrawingSource& m_source;

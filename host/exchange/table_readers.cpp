@@ -13,6 +13,9 @@ namespace {
 
 constexpr int kFrozen = 1;
 constexpr int kShapeFile = 1;
+constexpr int kFrozenInNewViewports = 2;
+constexpr int kBackward = 2;
+constexpr int kUpsideDown = 4;
 constexpr int kLocked = 4;
 constexpr int kVertical = 4;
 
@@ -42,6 +45,18 @@ void takeTransparency(const KdDbObject& object, LayerMembers& layer)
 /// Above all indexes of the palette.
 constexpr std::int64_t kNoIndex = 257;
 
+/// A layer's description is the second text of an application's extended data.
+void takeDescription(const KdDbObject& object, LayerMembers& layer)
+{
+    const resbuf* end = nullptr;
+    const resbuf* record = object.extendedData(L"AcAecLayerStandard", end);
+    int texts = 0;
+    for (; record != end; record = record->rbnext) {
+        if (record->restype == 1000 && ++texts == 2)
+            layer.description = record->resval.rstring;
+    }
+}
+
 void takeLayerColor(RecordReader& reader, LayerMembers& layer, bool hasTrueColor)
 {
     const std::int64_t index = reader.integer(); // wide, so that each can be negated
@@ -64,11 +79,15 @@ void readLayer(RecordReader& reader, LayerMembers& layer)
         case 70: {
             const int flags = readTableFlags(reader, layer);
             layer.frozen = (flags & kFrozen) != 0;
+            layer.frozenInNewViewports = (flags & kFrozenInNewViewports) != 0;
             layer.locked = (flags & kLocked) != 0;
             break;
         }
         case 290:
             layer.plottable = reader.flag();
+            break;
+        case 347:
+            layer.material = reader.reference();
             break;
         case 370:
             layer.lineweight = reader.shortInteger();
@@ -80,11 +99,15 @@ void readLayer(RecordReader& reader, LayerMembers& layer)
             layer.color = colorWordOfRgb(reader.integer());
             hasTrueColor = true;
             break;
+        case 430:
+            layer.colorName = reader.text();
+            break;
         default:
             break;
         }
     }
     takeTransparency(reader.object(), layer);
+    takeDescription(reader.object(), layer);
 }
 
 void readLinetype(RecordReader& reader, LinetypeMembers& linetype)
@@ -109,6 +132,29 @@ void readLinetype(RecordReader& reader, LinetypeMembers& linetype)
     }
 }
 
+/// The typeface of a TrueType font is extended data: its name, then a word of flags.
+void takeTypeface(const KdDbObject& object, TextStyleMembers& style)
+{
+    constexpr std::int32_t kItalic = 0x01000000;
+    constexpr std::int32_t kBold = 0x02000000;
+    const resbuf* end = nullptr;
+    const resbuf* record = object.extendedData(L"ACAD", end);
+    for (; record != end; record = record->rbnext) {
+        if (record->restype == 1000 && style.typeface.isEmpty()) {
+            style.typeface = record->resval.rstring;
+        } else if (record->restype == 1071) {
+            style.italic = (record->resval.rlong & kItalic) != 0;
+            style.bold = (record->resval.rlong & kBold) != 0;
+        }
+    }
+}
+
+void takeGeneration(int flags, TextStyleMembers& style)
+{
+    style.backward = (flags & kBackward) != 0;
+    style.upsideDown = (flags & kUpsideDown) != 0;
+}
+
 void readTextStyle(RecordReader& reader, TextStyleMembers& style)
 {
     while (reader.next()) {
@@ -116,11 +162,17 @@ void readTextStyle(RecordReader& reader, TextStyleMembers& style)
         case 3:
             style.fileName = reader.text();
             break;
+        case 4:
+            style.bigFontFileName = reader.text();
+            break;
         case 40:
             style.textSize = reader.real();
             break;
         case 41:
             style.xScale = reader.real();
+            break;
+        case 42:
+            style.priorSize = reader.real();
             break;
         case 50:
             style.obliquingAngle = reader.angle();
@@ -131,10 +183,14 @@ void readTextStyle(RecordReader& reader, TextStyleMembers& style)
             style.vertical = (flags & kVertical) != 0;
             break;
         }
+        case 71:
+            takeGeneration(reader.integer(), style);
+            break;
         default:
             break;
         }
     }
+    takeTypeface(reader.object(), style);
 }
 
 void readUcs(RecordReader& reader, UCSMembers& ucs)
@@ -152,6 +208,55 @@ void readUcs(RecordReader& reader, UCSMembers& ucs)
             break;
         case 70:
             readTableFlags(reader, ucs);
+            break;
+        default:
+            break;
+        }
+    }
+}
+
+void readViewport(RecordReader& reader, ViewportTableMembers& view)
+{
+    while (reader.next()) {
+        switch (reader.code()) {
+        case 10:
+            view.lowerLeft = reader.point2d();
+            break;
+        case 11:
+            view.upperRight = reader.point2d();
+            break;
+        case 12:
+            view.center = reader.point2d();
+            break;
+        case 16:
+            view.direction = reader.vector();
+            break;
+        case 17:
+            view.target = reader.point();
+            break;
+        case 40:
+            view.height = reader.real();
+            break;
+        case 41:
+            view.aspectRatio = reader.real();
+            break;
+        case 42:
+            view.lensLength = reader.real();
+            break;
+        case 51:
+            view.twist = reader.angle();
+            break;
+        case 70:
+            readFlags(reader, view);
+            break;
+        case 110:
+            view.ucsOrigin = reader.point();
+            break;
+        case 111:
+            view.ucsXAxis = reader.vector();
+            break;
+        case 112:
+            view.ucsYAxis = reader.vector();
             break;
         default:
             break;
@@ -212,6 +317,7 @@ constexpr MemberReaderRow kRows[] = {
     memberReader<KdDbLinetypeTableRecord, LinetypeMembers, readLinetype>(),
     memberReader<KdDbTextStyleTableRecord, TextStyleMembers, readTextStyle>(),
     memberReader<KdDbUCSTableRecord, UCSMembers, readUcs>(),
+    memberReader<KdDbViewportTableRecord, ViewportTableMembers, readViewport>(),
     memberReader<KdDbBlockTableRecord, BlockMembers, readBlock>(),
 };
 

@@ -85,6 +85,7 @@ KdString TextDecoder::decode(std::string_view bytes) const
 
 std::wstring TextDecoder::decodeWide(std::string_view bytes) const
 {
+    bytes = bytes.substr(0, kLongestText);
     if (isPlain(bytes))
         return std::wstring(bytes.begin(), bytes.end());
     std::wstring text;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -22,6 +23,9 @@ class TextDecoder
     bool useCodePage(std::string_view drawingName);
     void useUtf8() { m_utf8 = true; }
     const CodePage& codePage() const { return *m_page; }
+
+    /// Of a longer text only so many bytes are read: a damaged file may be one single line.
+    static constexpr std::size_t kLongestText = 1 << 20;
 
     /// The text of a group: bytes by the code page, then the escapes `^J`, `\U+XXXX`, `\M+nXXXX`.
     KdString decode(std::string_view bytes) const;

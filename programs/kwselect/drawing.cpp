@@ -1,48 +1,57 @@
 #include "drawing.h"
 
-#include <algorithm>
 #include <iostream>
 
 #include <database/database.h>
-#include <exchange/drawing_reader.h>
 #include <runtime/utf8.h>
 
-namespace {
+#include "exit_status.h"
+#include "interrupt.h"
 
-/// The first findings, each with its place, and how many more there are.
-void tellDamage(const std::string& file, const ReadReport& report)
+int readOrTell(const std::string& file, std::unique_ptr<KdDbDatabase>& database, ReadReport& report,
+               ReadOptions options)
 {
-    constexpr std::size_t kMostTold = 10;
-    const char* const place = report.binary ? "byte " : "line ";
-    const std::size_t told = std::min(report.findings.size(), kMostTold);
-    std::cerr << "kwselect: " << file << ": read only in part\n";
-    for (std::size_t i = 0; i < told; ++i) {
-        const ReadFinding& finding = report.findings[i];
-        std::cerr << "  " << place << finding.line << ": " << kdToUtf8(finding.sentence) << '\n';
-    }
-    if (report.totalFindings > told)
-        std::cerr << "  and " << report.totalFindings - told << " more\n";
+    const InterruptWatch watch;
+    options.progress = [](double) { return !InterruptWatch::wasInterrupted(); };
+    const KdErrorStatus status = readDrawing(file, database, report, options);
+    if (status == eOk)
+        return kSelected;
+    std::cerr << "kwselect: " << file << ": " << kdToUtf8(report.error) << '\n';
+    return status == eUserBreak ? kInterrupted : kCannotWork;
 }
-
-} // namespace
-
-Drawing::Drawing() = default;
 
 Drawing::~Drawing()
 {
     kddbHostApplicationServices()->setWorkingDatabase(nullptr);
 }
 
-bool Drawing::open(const std::string& file)
+int Drawing::open(const std::string& file)
 {
-    ReadReport report;
-    if (readDrawing(file, m_database, report) != eOk) {
-        std::cerr << "kwselect: " << file << ": " << kdToUtf8(report.error) << '\n';
-        return false;
-    }
-    m_complete = report.complete;
-    if (!m_complete)
-        tellDamage(file, report);
-    kddbHostApplicationServices()->setWorkingDatabase(m_database.get());
-    return true;
+    ReadOptions options;
+    options.found = [this](const ReadFinding& finding) { note(finding); };
+    m_file = file;
+    const int status = readOrTell(file, m_database, m_report, options);
+    if (status == kSelected)
+        kddbHostApplicationServices()->setWorkingDatabase(m_database.get());
+    return status;
+}
+
+void Drawing::note(const ReadFinding& finding)
+{
+    constexpr std::size_t kMostTold = 10;
+    if (!drawingFindingLosesContent(static_cast<DrawingFinding>(finding.number)))
+        return;
+    ++m_lost;
+    if (m_damage.size() < kMostTold)
+        m_damage.push_back(finding);
+}
+
+void Drawing::tellDamage() const
+{
+    const char* const place = m_report.binary ? "byte " : "line ";
+    std::cerr << "kwselect: " << m_file << ": read only in part\n";
+    for (const ReadFinding& finding : m_damage)
+        std::cerr << "  " << place << finding.line << ": " << kdToUtf8(finding.sentence) << '\n';
+    if (m_lost > m_damage.size())
+        std::cerr << "  and " << m_lost - m_damage.size() << " more\n";
 }

@@ -1,27 +1,41 @@
 /// The drawing that kwselect works on.
 #pragma once
 
+#include <cstddef>
 #include <memory>
 #include <string>
+#include <vector>
 
-class KdDbDatabase;
+#include <exchange/drawing_reader.h>
+
+/// Reads a drawing so that Ctrl+C cancels. On failure one line on standard error says why.
+/// @return `kSelected`, `kCannotWork` or `kInterrupted`
+int readOrTell(const std::string& file, std::unique_ptr<KdDbDatabase>& database, ReadReport& report,
+               ReadOptions options);
 
 /// Holds a drawing open as the working drawing.
 class Drawing
 {
   public:
-    Drawing();
+    Drawing() = default;
     ~Drawing();
     Drawing(const Drawing&) = delete;
     Drawing& operator=(const Drawing&) = delete;
 
-    /// Reads the file. False, with one line on standard error, if it can't be read.
-    bool open(const std::string& file);
-    /// False if the file could be read only in part, which has been told.
-    bool isComplete() const { return m_complete; }
-    KdDbDatabase& database() { return *m_database; }
+    /// Reads the file; see `readOrTell`.
+    int open(const std::string& file);
+    /// False if some of what stands in the file could not be read. This may come to light only when
+    /// an entity is asked about its properties.
+    bool isComplete() const { return m_lost == 0; }
+    /// Tells on standard error what could not be read.
+    void tellDamage() const;
 
   private:
+    void note(const ReadFinding& finding);
+
+    std::string m_file;
     std::unique_ptr<KdDbDatabase> m_database;
-    bool m_complete = false;
+    ReadReport m_report;
+    std::vector<ReadFinding> m_damage; ///< the first of it
+    std::size_t m_lost = 0;
 };

@@ -4,6 +4,7 @@
 #include <common/catalog.h>
 #include <common/module.h>
 
+#include "audit.h"
 #include "drawing.h"
 #include "dump.h"
 #include "exit_status.h"
@@ -37,20 +38,29 @@ int work(const Module& module, const Options& options)
 int run(const Options& options)
 {
     Drawing drawing;
-    if (!drawing.open(options.drawing))
-        return kCannotWork;
+    if (const int status = drawing.open(options.drawing))
+        return status;
     Module module;
     if (!module.load(modulePath())) {
         std::cerr << "kwselect: " << module.error() << '\n';
         return kCannotWork;
     }
     const int status = work(module, options);
+    if (drawing.isComplete())
+        return status;
     std::cout.flush();
-    if (!std::cout) {
-        std::cerr << "kwselect: the output can't be written\n";
-        return kCannotWork;
-    }
-    return status == kCannotWork || drawing.isComplete() ? status : kReadInPart;
+    drawing.tellDamage();
+    return status == kCannotWork ? status : kReadInPart;
+}
+
+int runAndFlush(const Options& options)
+{
+    const int status = options.audit ? auditDrawing(options) : run(options);
+    std::cout.flush();
+    if (std::cout)
+        return status;
+    std::cerr << "kwselect: the output can't be written\n";
+    return kCannotWork;
 }
 
 } // namespace
@@ -62,7 +72,7 @@ int main(int argc, char** argv)
     if (const auto status = readOptions(argc, argv, options))
         return *status;
     try {
-        return run(options);
+        return runAndFlush(options);
     } catch (const std::exception& problem) { // memory has run out, or the machine is at fault
         std::cerr << "kwselect: " << problem.what() << '\n';
         return kCannotWork;

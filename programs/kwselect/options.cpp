@@ -24,9 +24,12 @@ Examples:
   kwselect plan.dxf --list types
   kwselect plan.dxf --list properties --type Circle
   kwselect plan.dxf --dump
+  kwselect plan.dxf --type Circle --write circles.dxf
+  kwselect plan.dxf --audit --format json
 
-Exit status: 0 something selected, 1 nothing selected, 2 wrong usage or an unreadable drawing,
-3 a drawing that could be read only in part.
+Exit status: 0 something selected, 1 nothing selected, 2 wrong usage or a drawing that can't be
+read or written, 3 a drawing that could be read only in part, 130 interrupted while reading.
+An audit ends in 0 if nothing is wrong and in 1 if something is and all could be read.
 )";
 
 void declare(CLI::App& app, Options& options)
@@ -50,10 +53,22 @@ void declare(CLI::App& app, Options& options)
     const auto dump =
         app.add_flag("--dump", options.dump,
                      "Print every entity with all its properties, one JSON object a line");
-    for (CLI::Option* other : {type, property, op, value, exclude, list})
+    const auto write = app.add_option("--write", options.write,
+                                      "Write the selected entities as a drawing of their own");
+    const auto overwrite =
+        app.add_flag("--overwrite", options.overwrite, "Let --write replace an existing file");
+    const auto audit = app.add_flag("--audit", options.audit,
+                                    "Print everything that is wrong with the file and exit");
+    const auto format = app.add_option("--format", options.format, "How --audit prints: text, json")
+                            ->check(CLI::IsMember({"text", "json"}));
+    overwrite->needs(write);
+    format->needs(audit);
+    for (CLI::Option* other : {type, property, op, value, exclude, list, write})
         dump->excludes(other);
-    for (CLI::Option* other : {op, value, exclude})
+    for (CLI::Option* other : {op, value, exclude, write})
         list->excludes(other);
+    for (CLI::Option* other : {type, property, op, value, exclude, list, dump, write})
+        audit->excludes(other);
 }
 
 /// The option that an unknown one may have been meant to be, as a question.

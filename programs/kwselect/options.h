@@ -15,6 +15,10 @@ struct Options
     bool exclude = false;
     std::string list; ///< "types", "properties", "values", or empty
     bool dump = false;
+    bool audit = false;
+    std::string format = "text"; ///< of an audit: "text" or "json"
+    std::string write;           ///< the file to write the selection to, or empty
+    bool overwrite = false;
 };
 
 /// Reads the command line. Returns the exit status if the program is to end at once, after a help

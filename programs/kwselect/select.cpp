@@ -1,9 +1,11 @@
 #include "select.h"
 
 #include <iostream>
+#include <vector>
 
 #include <database/object.h>
 #include <editor/selection_sets.h>
+#include <exchange/drawing_writer.h>
 #include <runtime/utf8.h>
 
 #include "choice.h"
@@ -86,22 +88,33 @@ bool told(const Options& options, Outcome outcome)
     return true;
 }
 
-/// Prints the handles of the selection; false if nothing is selected.
-bool printSelection()
+std::vector<KdDbObjectId> selection()
 {
+    std::vector<KdDbObjectId> ids;
     kds_name set;
     if (kdedSSGetFirst(set) != RTNORM)
-        return false;
+        return ids;
     long length = 0;
     kdedSSLength(set, &length);
     for (long i = 0; i < length; ++i) {
         kds_name name;
         KdDbObjectId id;
         if (kdedSSName(set, i, name) == RTNORM && kddbGetObjectId(id, name) == eOk)
-            std::cout << handleText(id.handle()) << '\n';
+            ids.push_back(id);
     }
     kdedSSFree(set);
-    return length > 0;
+    return ids;
+}
+
+bool write(const Options& options, const std::vector<KdDbObjectId>& ids)
+{
+    KdString error;
+    WriteOptions writing;
+    writing.overwrite = options.overwrite;
+    if (writeSelection(*ids.front().database(), ids, options.write, error, writing) == eOk)
+        return true;
+    std::cerr << "kwselect: " << options.write << ": " << kdToUtf8(error) << '\n';
+    return false;
 }
 
 } // namespace
@@ -115,5 +128,10 @@ int selectEntities(const Module& module, const Options& options)
     module.run(requestOf(filter, options.exclude), nullptr, result);
     if (!told(options, result.outcome))
         return kCannotWork;
-    return printSelection() ? kSelected : kNothingSelected;
+    const std::vector<KdDbObjectId> ids = selection();
+    if (ids.empty())
+        return kNothingSelected;
+    for (const KdDbObjectId id : ids)
+        std::cout << handleText(id.handle()) << '\n';
+    return options.write.empty() || write(options, ids) ? kSelected : kCannotWork;
 }

@@ -60,7 +60,8 @@ TEST(HeaderVariables, HaveAKindThatTheirGroupCanHold)
     for (const KdDbHeaderVariable& variable : KdDbHeaderVariables::all()) {
         const int group = variable.group;
         std::size_t kind = 0;
-        if (group < 10 || group == 390)
+        const bool isHandle = (group >= 320 && group < 370) || group == 390;
+        if (group < 10 || isHandle)
             kind = 2;
         else if (group == 10)
             kind = 3;

@@ -60,8 +60,10 @@ TEST_P(SampleDrawing, IsRead)
 {
     const ReadDrawing drawn = readWhole(GetParam());
     ASSERT_EQ(drawn.status, eOk);
-    const bool isCutOff = GetParam() == "odd/open_section.dxf";
-    EXPECT_EQ(drawn.report.complete, !isCutOff);
+    // One is cut off, one has letters in numbers.
+    const bool isInPart =
+        GetParam() == "odd/open_section.dxf" || GetParam() == "odd/assorted_badtag.dxf";
+    EXPECT_EQ(drawn.report.complete, !isInPart);
     EXPECT_EQ(drawn.database->openCount(), 0);
     EXPECT_TRUE(drawn.record<KdDbLayerTable>(L"0"));
     const bool isEmpty = GetParam() == "odd/blocks_no_name_r12.dxf";

@@ -114,7 +114,8 @@ TEST(TextStyleRecord, IsRead)
 
 TEST(TextStyleRecord, OfAShapeFileHasNoName)
 {
-    const ReadDrawing drawn = readEntry("STYLE", {{2, ""}, {70, "1"}, {3, "ltypeshp.shx"}});
+    const ReadDrawing drawn =
+        readEntry("STYLE", {{5, "11"}, {2, ""}, {70, "1"}, {3, "ltypeshp.shx"}});
     EXPECT_EQ(drawn.report.totalFindings, 0u);
     ASSERT_TRUE(drawn.record<KdDbTextStyleTable>(L""));
     EXPECT_TRUE(drawn.record<KdDbTextStyleTable>(L"")->isShapeFile());

@@ -3,6 +3,7 @@
 
 #include <functional>
 #include <memory>
+#include <string_view>
 #include <vector>
 
 #include <database/arena.h>
@@ -18,6 +19,9 @@ class KW_EXPORT KdDbMemberSource
     virtual ~KdDbMemberSource();
     /// Fills `members`, a fresh record of the object's kind, from the object's place in the source.
     virtual void readMembers(const KdDbObject& object, ObjectMembers& members) = 0;
+    /// The bytes of a part of the source, as they stand in it, for as long as the database lives;
+    /// empty where there are none. Here: always empty.
+    virtual std::string_view bytes(SourceRange range) const;
 };
 
 /// Owns all objects of one drawing. Objects live until the database goes.
@@ -73,6 +77,8 @@ class KW_EXPORT KdDbDatabase
     long long openCount() const { return m_openCount; }
     /// All objects, in the order in which they were added.
     const std::vector<KdDbObject*>& objects() const { return m_objects; }
+    /// Where the objects came from; null for a drawing that was made in memory.
+    const KdDbMemberSource* source() const { return m_source.get(); }
 
     /// Takes a new object over and gives it the next free handle.
     KdErrorStatus addObject(KdDbObject* object, KdDbObjectId owner);
@@ -131,6 +137,9 @@ class KW_EXPORT KdDbDatabaseBuilder
     /// gets one from `finish`. `rxClass` must have a factory.
     KdDbObject* make(const KdRxClass* rxClass, KdDbHandle handle, SourceRange source);
     void setOwner(KdDbObject& object, KdDbObjectId owner);
+    /// Gives its handle to an object that has none yet. It must not be in use.
+    void setHandle(KdDbObject& object, KdDbHandle handle);
+    void setSourceRange(KdDbObject& object, SourceRange source);
     void setNamedObjectsDictionary(KdDbObjectId id);
     void setSource(std::unique_ptr<KdDbMemberSource> source);
     void reserve(std::size_t objects);

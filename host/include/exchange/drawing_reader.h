@@ -17,6 +17,9 @@ struct ReadOptions
     bool readAllMembers = false;
     /// Called now and then with the part that is done, 0 to 1. Answering false cancels.
     std::function<bool(double fraction)> progress;
+    /// Called with each finding as it is met, also with those that only come up when members are
+    /// read later: what it refers to must live as long as the drawing.
+    std::function<void(const ReadFinding&)> found;
 };
 
 struct ReadReport
@@ -31,7 +34,7 @@ struct ReadReport
     std::size_t unknownEntities = 0;
     std::vector<ReadFinding> findings; ///< in the order in which they were met
     std::size_t totalFindings = 0;
-    bool complete = false; ///< false if the file ended early or a section was not closed
+    bool complete = false; ///< false if something that stands in the file could not be read
 };
 
 /// Reads a drawing. What can be read of a damaged file is read, the rest stands in the report.

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 
+#include <database/object_id.h>
 #include <runtime/export.h>
 #include <runtime/kd_string.h>
 
@@ -33,15 +34,24 @@ enum class DrawingFinding : int
     TableNotClosed = 22,
     BlockNotClosed = 23,
     BadHeaderVariable = 24,
+    HandleIsMissing = 25,
+    OwnerIsMissing = 26,
+    BlockHoldsItself = 27,
+    UnknownVersion = 28,
+    UnknownSection = 29,
+    UnknownTable = 30,
 };
 
-/// The sentence that explains a kind of finding.
+/// The sentence that explains a kind of finding; empty for a number that is none.
 KW_EXPORT const wchar_t* drawingFindingSentence(DrawingFinding kind);
+/// True if something that stands in the file was not read.
+KW_EXPORT bool drawingFindingLosesContent(DrawingFinding kind);
 
 /// One thing found in a file.
 struct ReadFinding
 {
     int number = 0;         ///< a `DrawingFinding`
     std::uint64_t line = 0; ///< from 1; in a binary file the byte offset
+    KdDbHandle handle = 0;  ///< of the object concerned; 0 where there is none or it is not known
     KdString sentence;      ///< what is wrong and what was done about it, with the name concerned
 };

@@ -1,0 +1,34 @@
+/// Writes parts of a drawing out again.
+#pragma once
+
+#include <filesystem>
+#include <span>
+
+#include <database/database.h>
+
+struct WriteOptions
+{
+    bool overwrite = false; ///< lets an existing file be replaced
+};
+
+/// Writes entities as a drawing of their own, in the form and version of the file that they were
+/// read from. It is put together from the bytes of that file, so nothing is lost that this program
+/// does not know: header, classes, tables and objects come along whole, of the blocks those that
+/// are used, and what belongs to entities that stay behind is left out. The sheet viewports of
+/// layouts come along, and so do entities that the chosen ones can't do without, such as the text
+/// at the end of a leader or the outline of a clipped viewport.
+///
+/// The file appears under its name only when it is complete; on failure nothing is left behind, and
+/// a file that was to be replaced is as it was.
+/// @param database  a drawing that was read from a file
+/// @param entities  of the model, of sheets or inside blocks; attributes and vertices stand for the
+///                  entity that they belong to
+/// @param target    where to; never the file that the drawing was read from
+/// @param error     a sentence for the user on failure, otherwise untouched
+/// @return          `eInvalidInput` for an entity of another drawing or one that was not read from
+///                  a file, `eDuplicateKey` for a target that exists, `eFileAccessError` for one
+///                  that can't be written
+KW_EXPORT KdErrorStatus writeSelection(const KdDbDatabase& database,
+                                       std::span<const KdDbObjectId> entities,
+                                       const std::filesystem::path& target, KdString& error,
+                                       const WriteOptions& options = {});
