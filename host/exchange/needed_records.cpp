@@ -171,20 +171,58 @@ void NeededRecords::keep(const std::unordered_set<std::uint64_t>& places)
         follow(record);
         keepOwned(record);
     }
-    // The data of solids go with them.
+    dropEmptyGroups();
+    dropUnneededBodies();
+}
+
+void NeededRecords::dropEmptyGroups()
+{
+    constexpr int kMember = 340;
+    for (std::size_t i = 0; i < m_outline.records.size(); ++i) {
+        const Outline::Record& record = m_outline.records[i];
+        if (!m_kept[i] || record.section != SectionKind::Objects || record.name != "GROUP")
+            continue;
+        GroupStream groups(m_form, record.begin, record.end, nullptr);
+        Group group;
+        bool hadMembers = false;
+        bool hasMembers = false;
+        while (groups.next(group)) {
+            if (group.code != kMember)
+                continue;
+            hadMembers = true;
+            hasMembers = hasMembers || !isDropped(looseHandleOf(group));
+        }
+        if (hadMembers && !hasMembers)
+            drop(i);
+    }
+}
+
+/// The data of solids go with them.
+void NeededRecords::dropUnneededBodies()
+{
+    constexpr int kSolid = 320;
     for (std::size_t i = 0; i < m_outline.records.size(); ++i) {
         const Outline::Record& record = m_outline.records[i];
         if (record.section != SectionKind::Bodies)
             continue;
         GroupStream groups(m_form, record.begin, record.end, nullptr);
         Group group;
-        bool isDroppedBody = false;
+        m_kept[i] = true;
         while (groups.next(group)) {
-            if (group.code == 320)
-                isDroppedBody = isDropped(looseHandleOf(group));
+            if (group.code == kSolid && isDropped(looseHandleOf(group)))
+                m_kept[i] = false;
         }
-        m_kept[i] = !isDroppedBody;
     }
+}
+
+void NeededRecords::drop(std::size_t record)
+{
+    if (!m_kept[record])
+        return;
+    m_kept[record] = false;
+    auto at = std::ranges::lower_bound(m_owned, std::pair<std::size_t, std::size_t>(record, 0));
+    for (; at != m_owned.end() && at->first == record; ++at)
+        drop(at->second);
 }
 
 void NeededRecords::keepRecord(std::size_t record)
@@ -251,6 +289,9 @@ void NeededRecords::follow(std::size_t index)
     const bool isFrame = record.name == "BLOCK" || record.name == "BLOCK_RECORD";
     GroupStream groups(m_form, record.begin, record.end, nullptr);
     Group group;
+    // Objects, such as groups, only look on.
+    const bool isEntity =
+        record.section == SectionKind::Entities || record.section == SectionKind::Blocks;
     bool inApplicationGroup = false;
     bool inFirstPart = true;
     while (groups.next(group)) {
@@ -260,13 +301,13 @@ void NeededRecords::follow(std::size_t index)
             inFirstPart = false;
         const bool isOwner = group.code == 330 && inFirstPart;
         if (isHandleCode(group.code) && !isOwner && !inApplicationGroup)
-            followHandle(looseHandleOf(group), group.code);
+            followHandle(looseHandleOf(group), isEntity && isHardReference(group.code));
         else if (!isFrame && mayNameBlock(group.code, record.name))
             keepBlockNamed(group.text);
     }
 }
 
-void NeededRecords::followHandle(std::uint64_t handle, int code)
+void NeededRecords::followHandle(std::uint64_t handle, bool bringsEntity)
 {
     const std::size_t target = handle != 0 ? m_outline.find(handle) : kNone;
     if (target == kNone)
@@ -276,7 +317,7 @@ void NeededRecords::followHandle(std::uint64_t handle, int code)
         keepBlock(block, Extent::Whole);
     else if (record.name == "BLOCK" && record.block != 0)
         keepBlock(record.block - 1, Extent::Whole);
-    else if (isHardReference(code) && record.section == SectionKind::Entities) {
+    else if (bringsEntity && record.section == SectionKind::Entities) {
         keepRecord(target);
         keepParts(target);
     }

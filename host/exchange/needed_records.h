@@ -45,11 +45,14 @@ class NeededRecords
     void keepRecord(std::size_t record);
     void keepOwned(std::size_t owner);
     void keepParts(std::size_t entity);
+    void dropEmptyGroups();
+    void dropUnneededBodies();
+    void drop(std::size_t record);
     void keepBlock(std::size_t block, Extent extent);
     void keepBlockNamed(std::string_view name);
     void keepArrowsOfHeader(const Outline::Section& header);
     void follow(std::size_t record);
-    void followHandle(std::uint64_t handle, int code);
+    void followHandle(std::uint64_t handle, bool bringsEntity);
     bool standsAlone(const Outline::Record& record) const;
     std::size_t blockNamed(std::string_view name);
     std::size_t blockOfTableRecord(std::size_t record) const;
