@@ -1,6 +1,6 @@
 // Reads arbitrary bytes as a drawing with everything in it, asks its entities what entities can be
-// asked, and writes part of it out again. What was written must be a whole drawing that can be read.
-// Seeds: corpus/dxf, in both forms; the words of the format: dxf.dict.
+// asked, and writes part of it out again. What was written must be a whole drawing that can be
+// read. Seeds: corpus/dxf, in both forms; the words of the format: dxf.dict.
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>

@@ -217,12 +217,17 @@ void NeededRecords::dropUnneededBodies()
 
 void NeededRecords::drop(std::size_t record)
 {
-    if (!m_kept[record])
-        return;
-    m_kept[record] = false;
-    auto at = std::ranges::lower_bound(m_owned, std::pair<std::size_t, std::size_t>(record, 0));
-    for (; at != m_owned.end() && at->first == record; ++at)
-        drop(at->second);
+    std::vector<std::size_t> toDrop{record};
+    while (!toDrop.empty()) {
+        const std::size_t owner = toDrop.back();
+        toDrop.pop_back();
+        if (!m_kept[owner])
+            continue;
+        m_kept[owner] = false;
+        auto at = std::ranges::lower_bound(m_owned, std::pair<std::size_t, std::size_t>(owner, 0));
+        for (; at != m_owned.end() && at->first == owner; ++at)
+            toDrop.push_back(at->second);
+    }
 }
 
 void NeededRecords::keepRecord(std::size_t record)
@@ -296,7 +301,8 @@ void NeededRecords::follow(std::size_t index)
     bool inFirstPart = true;
     while (groups.next(group)) {
         if (group.code == 102)
-            inApplicationGroup = group.text.starts_with('{') && record.name != "XRECORD";
+            inApplicationGroup =
+                group.text.starts_with('{') && (inFirstPart || record.name != "XRECORD");
         else if (group.code == 100)
             inFirstPart = false;
         const bool isOwner = group.code == 330 && inFirstPart;

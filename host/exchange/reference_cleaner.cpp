@@ -50,7 +50,7 @@ class Cleaning
     std::vector<ByteRange> run()
     {
         while (next()) {
-            if (m_group.code == 102 && m_record.name != "XRECORD" && readApplicationGroup())
+            if (m_group.code == 102 && !isFreeContent() && readApplicationGroup())
                 continue;
             m_inFirstPart = m_inFirstPart && m_group.code != 100;
             const ReferenceRow* row = rowOf(m_record.name, m_group.code);
@@ -72,6 +72,9 @@ class Cleaning
         }
         return m_groups.next(m_group);
     }
+
+    /// What follows in a free record is no list, whatever it looks like.
+    bool isFreeContent() const { return m_record.name == "XRECORD" && !m_inFirstPart; }
 
     void keepUpTo(std::uint64_t end)
     {

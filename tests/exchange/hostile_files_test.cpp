@@ -46,8 +46,7 @@ class EndlessLines : public testing::TestWithParam<EndlessLine>
 TEST_P(EndlessLines, CostLittleMoreThanThemselves)
 {
     constexpr std::size_t kLength = 64 * kMegabyte;
-    const std::string content =
-        GetParam().before + std::string(kLength, 'x') + GetParam().after;
+    const std::string content = GetParam().before + std::string(kLength, 'x') + GetParam().after;
     const std::size_t before = peakMemory();
     const ReadDrawing drawn = readWhole(content);
     EXPECT_EQ(drawn.status, eOk);
@@ -107,9 +106,9 @@ TEST(NestedBlocks, MayBeAsDeepAsThereAreBlocks)
 
 TEST(NestedBlocks, FormNoLoopWithoutTheReferencesFound)
 {
-    const ReadDrawing drawn = readWhole("0\nSECTION\n2\nBLOCKS\n" + blockWith("A", "B") +
-                                        blockWith("B", "C") + blockWith("C", "A") +
-                                        blockWith("D", "A") + "0\nENDSEC\n0\nEOF\n");
+    const ReadDrawing drawn =
+        readWhole("0\nSECTION\n2\nBLOCKS\n" + blockWith("A", "B") + blockWith("B", "C") +
+                  blockWith("C", "A") + blockWith("D", "A") + "0\nENDSEC\n0\nEOF\n");
     const std::vector<KdDbObjectId> loops = kddbReferencesThatLoop(*drawn.database);
     ASSERT_EQ(loops.size(), 1u);
     EXPECT_EQ(loops[0].ownerId(), drawn.record<KdDbBlockTable>(L"C")->objectId());
@@ -117,9 +116,9 @@ TEST(NestedBlocks, FormNoLoopWithoutTheReferencesFound)
 
 TEST(NestedBlocks, ThatOnlyShareABlockAreNoLoop)
 {
-    const ReadDrawing drawn = readWhole("0\nSECTION\n2\nBLOCKS\n" + blockWith("A", "C") +
-                                        blockWith("B", "C") + blockWith("C", "MISSING") +
-                                        "0\nENDSEC\n0\nEOF\n");
+    const ReadDrawing drawn =
+        readWhole("0\nSECTION\n2\nBLOCKS\n" + blockWith("A", "C") + blockWith("B", "C") +
+                  blockWith("C", "MISSING") + "0\nENDSEC\n0\nEOF\n");
     EXPECT_TRUE(kddbReferencesThatLoop(*drawn.database).empty());
     EXPECT_FALSE(drawn.hasFinding(DrawingFinding::BlockHoldsItself));
 }
@@ -134,10 +133,16 @@ TEST(OwnersThatAreNotThere, DoNotHideTheirEntities)
 
 TEST(DictionariesThatOwnOneAnother, AreRead)
 {
-    const ReadDrawing drawn = readGroupsWhole(
-        drawing({section("OBJECTS", {{0, "DICTIONARY"}, {5, "A"}, {330, "B"}, {3, "X"}, {350, "B"},
-                                     {0, "DICTIONARY"}, {5, "B"}, {330, "A"}, {3, "Y"},
-                                     {350, "A"}})}));
+    const ReadDrawing drawn = readGroupsWhole(drawing({section("OBJECTS", {{0, "DICTIONARY"},
+                                                                           {5, "A"},
+                                                                           {330, "B"},
+                                                                           {3, "X"},
+                                                                           {350, "B"},
+                                                                           {0, "DICTIONARY"},
+                                                                           {5, "B"},
+                                                                           {330, "A"},
+                                                                           {3, "Y"},
+                                                                           {350, "A"}})}));
     EXPECT_EQ(drawn.status, eOk);
     EXPECT_EQ(drawn.object(0xA)->ownerId().handle(), 0xBu);
 }
@@ -153,15 +158,15 @@ TEST(Sections, MayAllBeMissingButTheEntities)
 
 TEST(Sections, MayComeTwice)
 {
-    const ReadDrawing drawn = readGroups(drawing(
-        {section("ENTITIES", {{0, "LINE"}, {8, "0"}}), section("ENTITIES", {{0, "ARC"}, {8, "0"}})}));
+    const ReadDrawing drawn = readGroups(drawing({section("ENTITIES", {{0, "LINE"}, {8, "0"}}),
+                                                  section("ENTITIES", {{0, "ARC"}, {8, "0"}})}));
     EXPECT_EQ(drawn.entities().size(), 2u);
 }
 
 TEST(Numbers, MayHaveBlanksAroundThem)
 {
-    const ReadDrawing drawn =
-        readGroups(drawing({section("ENTITIES", {{0, "LINE"}, {5, "  A "}, {48, "\t 2.5  "}, {370, "  25"}})}));
+    const ReadDrawing drawn = readGroups(drawing(
+        {section("ENTITIES", {{0, "LINE"}, {5, "  A "}, {48, "\t 2.5  "}, {370, "  25"}})}));
     EXPECT_EQ(drawn.entities()[0]->linetypeScale(), 2.5);
     EXPECT_EQ(drawn.entities()[0]->lineWeight(), 25);
     EXPECT_EQ(drawn.entities()[0]->handle(), 0xAu);

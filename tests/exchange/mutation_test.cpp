@@ -79,8 +79,8 @@ void swapGroups(Lines& lines, Random& random)
 void changeValue(Lines& lines, Random& random)
 {
     static const std::string values[] = {
-        "",     "0",   "-1",          "1e400", "nan",     "-inf",       "4294967295", "2147483648",
-        "SECT", "EOF", "1e-320",      "{",     "}",       "FFFFFFFFFF", "*U1",        "-99999999999",
+        "",     "0",   "-1",          "1e400", "nan",    "-inf",       "4294967295", "2147483648",
+        "SECT", "EOF", "1e-320",      "{",     "}",      "FFFFFFFFFF", "*U1",        "-99999999999",
         "10",   "70",  "\\U+D800^ ^", "\xFF",  "ENDTAB", "SEQEND",     "1,5",        "99999999"};
     lines[anyGroup(lines, random) + 1] = values[random() % std::size(values)];
 }
@@ -111,8 +111,9 @@ std::string mutatedText(const std::string& content, Random& random)
     return textOf(lines);
 }
 
-std::string mutatedBytes(std::string content, Random& random)
+std::string mutatedBytes(const std::string& original, Random& random)
 {
+    std::string content = original;
     const std::size_t faults = 1 + random() % 5;
     for (std::size_t i = 0; i < faults; ++i)
         content[22 + random() % (content.size() - 22)] = static_cast<char>(random());

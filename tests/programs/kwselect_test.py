@@ -4,13 +4,15 @@
 import argparse
 import json
 import os
+import signal
 import subprocess
 import sys
 import tempfile
+import time
 import unittest
 from pathlib import Path
 
-SELECTED, NOTHING, CANNOT_WORK, IN_PART = 0, 1, 2, 3
+SELECTED, NOTHING, CANNOT_WORK, IN_PART, INTERRUPTED = 0, 1, 2, 3, 130
 GENERAL = ["Color", "Layer", "Linetype", "Linetype scale", "Plot style", "Lineweight",
            "Transparency", "Hyperlink"]
 PROGRAM = ""
@@ -174,6 +176,164 @@ class Listing(unittest.TestCase):
         self.assertEqual(list(first), ["handle", "className", "displayName", "properties"])
         self.assertEqual(first["properties"][0]["key"], "\tGeneral:Color")
         self.assertEqual(first["properties"][0]["restype"], 5011)
+
+
+def damaged(folder):
+    """A drawing with a fault of each weight, and the place of each."""
+    path = Path(folder) / "damaged.dxf"
+    path.write_text("0\nSECTION\n2\nENTITIES\n0\nLINE\n5\nAB\n8\nPIPES\n48\nwide\n"
+                    "0\nCIRCLE\n5\nAC\n8\n0\n40\n2.0\n0\nENDSEC\n0\nEOF\n")
+    return path
+
+
+class Auditing(unittest.TestCase):
+    plan = property(lambda self: DRAWINGS / "floor_plan.dxf")
+
+    def test_a_sound_drawing_has_no_findings(self):
+        run = Run(self.plan, "--audit")
+        self.assertEqual((run.status, run.lines, run.errors), (SELECTED, [], "0 finding(s).\n"))
+
+    def test_findings_come_with_line_handle_and_number(self):
+        with tempfile.TemporaryDirectory() as folder:
+            run = Run(damaged(folder), "--audit")
+        self.assertEqual(run.lines, [
+            "line 5: handle AB: A layer is used and not defined; it was made with defaults: PIPES [16]",
+            "line 11: handle AB: A number is malformed; what could be read of it was used [2]"])
+        self.assertEqual(run.status, IN_PART)
+
+    def test_findings_that_lose_nothing_are_another_status(self):
+        with tempfile.TemporaryDirectory() as folder:
+            path = Path(folder) / "layer.dxf"
+            path.write_text("0\nSECTION\n2\nENTITIES\n0\nLINE\n8\nPIPES\n0\nENDSEC\n0\nEOF\n")
+            self.assertEqual(Run(path, "--audit").status, NOTHING)
+
+    def test_json_tells_the_same(self):
+        with tempfile.TemporaryDirectory() as folder:
+            run = Run(damaged(folder), "--audit", "--format", "json")
+        audit = json.loads("\n".join(run.lines))
+        self.assertEqual([(f["number"], f["line"], f["handle"]) for f in audit["findings"]],
+                         [(16, 5, "AB"), (2, 11, "AB")])
+        self.assertTrue(audit["findings"][0]["sentence"].endswith("defaults: PIPES"))
+        self.assertEqual((audit["version"], audit["binary"], audit["entities"], audit["complete"]),
+                         ("AC1009", False, 2, False))
+        sound = json.loads("\n".join(Run(self.plan, "--audit", "--format", "json").lines))
+        self.assertEqual((sound["findings"], sound["complete"]), ([], True))
+
+    def test_every_finding_is_listed(self):
+        with tempfile.TemporaryDirectory() as folder:
+            path = Path(folder) / "many.dxf"
+            path.write_text("0\nSECTION\n2\nENTITIES\n" + "0\nSTRANGE\n8\n0\n" * 3000 +
+                            "0\nENDSEC\n0\nEOF\n")
+            run = Run(path, "--audit")
+        self.assertEqual(len(run.lines), 3000)
+        self.assertEqual(run.lines[-1], "line 12001: The kind of an entity is not known; its general "
+                                        "properties were read: STRANGE [20]")
+
+    def test_a_file_that_can_not_be_read_is_one_line(self):
+        for form in ("text", "json"):
+            run = Run("no_such.dxf", "--audit", "--format", form)
+            self.assertEqual((run.status, run.lines), (CANNOT_WORK, []))
+            self.assertEqual(run.errors, "kwselect: no_such.dxf: The file does not exist.\n")
+
+    def test_an_audit_needs_no_module_and_no_entities(self):
+        with tempfile.TemporaryDirectory() as folder:
+            path = Path(folder) / "empty.dxf"
+            path.write_text("0\nEOF\n")
+            run = Run(path, "--audit", environment={"KW_MODULE": "/nowhere/module.so"})
+        self.assertEqual(run.status, SELECTED)
+
+    def test_it_stands_alone(self):
+        self.assertEqual(Run(self.plan, "--audit", "--type", "Circle").status, CANNOT_WORK)
+        self.assertEqual(Run(self.plan, "--format", "json").status, CANNOT_WORK)
+
+    def test_damage_inside_entities_shows_in_the_status_of_a_search(self):
+        with tempfile.TemporaryDirectory() as folder:
+            run = Run(damaged(folder), "--property", "Linetype scale", "--value", "0")
+            sound = Run(damaged(folder), "--type", "Circle", "--property", "Radius", "--value", "2")
+        self.assertEqual((run.status, run.lines), (IN_PART, ["AB"]))
+        self.assertIn("line 11: A number is malformed", run.errors)
+        self.assertEqual((sound.status, sound.lines), (SELECTED, ["AC"]))
+
+
+class Writing(unittest.TestCase):
+    plan = property(lambda self: DRAWINGS / "floor_plan.dxf")
+
+    def setUp(self):
+        holder = tempfile.TemporaryDirectory()
+        self.addCleanup(holder.cleanup)
+        self.folder = Path(holder.name)
+        self.target = self.folder / "circles.dxf"
+
+    def write(self, *arguments, **options):
+        return Run(self.plan, "--type", "Circle", "--write", self.target, *arguments, **options)
+
+    def test_writes_the_selection_and_prints_it(self):
+        run = self.write()
+        self.assertEqual(run.status, SELECTED)
+        self.assertEqual(Run(self.target, "--type", "Circle").lines, run.lines)
+        self.assertEqual([line.split("\t")[0] for line in Run(self.target, "--list", "types").lines],
+                         ["Circle"])
+
+    def test_replaces_a_file_only_when_told_to(self):
+        self.target.write_text("old")
+        run = self.write()
+        self.assertEqual(run.status, CANNOT_WORK)
+        self.assertIn("circles.dxf: The file exists already.", run.errors)
+        self.assertEqual(self.target.read_text(), "old")
+        self.assertEqual(self.write("--overwrite").status, SELECTED)
+        self.assertIn("CIRCLE", self.target.read_text())
+
+    def test_never_replaces_its_source(self):
+        copy = self.folder / "plan.dxf"
+        copy.write_bytes(self.plan.read_bytes())
+        run = Run(copy, "--type", "Circle", "--write", copy, "--overwrite")
+        self.assertEqual(run.status, CANNOT_WORK)
+        self.assertIn("written over the file that it comes from", run.errors)
+        self.assertEqual(copy.read_bytes(), self.plan.read_bytes())
+
+    def test_writes_nothing_where_nothing_is_selected(self):
+        run = Run(self.plan, "-p", "Layer", "-v", "NO-SUCH-LAYER", "--write", self.target)
+        self.assertEqual(run.status, NOTHING)
+        self.assertFalse(self.target.exists())
+
+    def test_a_folder_that_can_not_be_written_to_is_told(self):
+        if os.geteuid() == 0:
+            target = Path("/proc/circles.dxf")
+        else:
+            self.folder.chmod(0o500)
+            target = self.target
+        run = Run(self.plan, "--type", "Circle", "--write", target)
+        self.assertEqual(run.status, CANNOT_WORK)
+        self.assertRegex(run.errors, r"(?m)^kwselect: .*circles.dxf: The (folder|file) .*\.$")
+
+    def test_overwrite_is_for_writing(self):
+        self.assertEqual(Run(self.plan, "--type", "Circle", "--overwrite").status, CANNOT_WORK)
+        self.assertEqual(Run(self.plan, "--dump", "--write", self.target).status, CANNOT_WORK)
+
+
+class Interrupting(unittest.TestCase):
+    def test_ctrl_c_cancels_the_reading(self):
+        with tempfile.TemporaryDirectory() as folder:
+            path = Path(folder) / "large.dxf"
+            with path.open("w") as file:
+                file.write("0\nSECTION\n2\nENTITIES\n")
+                for _ in range(200):
+                    file.write("0\nLINE\n8\n0\n10\n1.0\n20\n2.0\n" * 20000)
+                file.write("0\nENDSEC\n0\nEOF\n")
+            program = subprocess.Popen([PROGRAM, str(path), "--audit"], stdout=subprocess.PIPE,
+                                       stderr=subprocess.PIPE)
+            while program.poll() is None and not catches_interrupts(program.pid):
+                time.sleep(0.001)
+            program.send_signal(signal.SIGINT)
+            _, errors = program.communicate(timeout=120)
+        self.assertEqual(program.returncode, INTERRUPTED)
+        self.assertEqual(errors.decode(), f"kwselect: {path}: Reading was cancelled.\n")
+
+
+def catches_interrupts(process):
+    status = Path(f"/proc/{process}/status").read_text()
+    mask = next(int(line.split()[1], 16) for line in status.splitlines() if line.startswith("SigCgt"))
+    return bool(mask & 1 << (signal.SIGINT - 1))
 
 
 class Refusing(unittest.TestCase):
