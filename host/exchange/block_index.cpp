@@ -144,20 +144,11 @@ KdDbBlockTableRecord& BlockIndex::blockOf(const StatedOwner& stated, bool paper)
         m_lastOwner = stated.owner;
         m_lastSpace = record && isSpace(*record) ? record : nullptr;
         if (!record && stated.owner != 0)
-            m_unknownOwners.push_back(stated);
+            m_maker.checkOwnerLater(stated); // once for each run of entities
     }
     if (m_lastSpace && stated.owner != 0)
         return *m_lastSpace;
     return paper ? space(m_paper, kPaperSpaceName) : space(m_model, kModelSpaceName);
-}
-
-void BlockIndex::noteMissingOwners()
-{
-    for (const StatedOwner& stated : m_unknownOwners) {
-        KdDbObjectId owner;
-        if (m_source.database.getObjectId(owner, stated.owner) != eOk)
-            m_source.findings.add(DrawingFinding::OwnerIsMissing, stated.offset, {}, stated.entity);
-    }
 }
 
 } // namespace dxf

@@ -3,7 +3,6 @@
 
 #include <unordered_map>
 #include <unordered_set>
-#include <vector>
 
 #include "object_maker.h"
 #include "record_cursor.h"
@@ -24,18 +23,8 @@ class BlockIndex
     void end() { m_open = nullptr; }
     bool isInBlock() const { return m_open != nullptr; }
 
-    /// What an entity says of its owner; 0 where it names none.
-    struct StatedOwner
-    {
-        KdDbHandle owner = 0;
-        std::uint64_t offset = 0; ///< of the entity
-        KdDbHandle entity = 0;
-    };
     /// The block of an entity, by the section that it stands in, its owner and its space flag.
     KdDbBlockTableRecord& blockOf(const StatedOwner& stated, bool paper);
-    /// Notes the owners that entities name and that are not in the drawing; called when all handles
-    /// are known.
-    void noteMissingOwners();
 
   private:
     struct Head;
@@ -53,7 +42,6 @@ class BlockIndex
     KdDbBlockTableRecord* m_model = nullptr;
     KdDbBlockTableRecord* m_paper = nullptr;
     KdDbHandle m_lastOwner = 0;
-    std::vector<StatedOwner> m_unknownOwners; ///< of runs of entities
     KdDbBlockTableRecord* m_lastSpace = nullptr;
 };
 

@@ -48,6 +48,7 @@ constexpr FindingRow kSentences[] = {
     {DrawingFinding::BlockHoldsItself,     kept, L"A block holds a reference that leads back to the block itself"},
     {DrawingFinding::UnknownVersion,       kept, L"The version of the drawing is not known"},
     {DrawingFinding::UnknownSection,       lost, L"A section of that name is not known; it was left out"},
+    {DrawingFinding::RecordOutsideTable,   kept, L"A table record stands outside of its table; it was read all the same"},
     {DrawingFinding::UnknownTable,         lost, L"A table record of that kind is not known; it was left out"},
 };
 // clang-format on

@@ -157,7 +157,7 @@ void IndexPass::readEntities()
 void IndexPass::finish()
 {
     m_objects.tie();
-    m_blocks.noteMissingOwners();
+    m_maker.noteMissingOwners();
     // Blocks say which of them have layouts; the other records may name standard ones.
     readDefinitions(true);
     m_maker.builder().finish();

@@ -58,8 +58,8 @@ void ObjectIndex::tie()
         if (m_source.database.getObjectId(owner, pending.owner) == eOk)
             m_maker.builder().setOwner(*pending.object, owner);
         else
-            m_source.findings.add(DrawingFinding::OwnerIsMissing, pending.object->source().offset,
-                                  {}, pending.object->handle());
+            m_maker.checkOwnerLater(
+                {pending.owner, pending.object->source().offset, pending.object->handle()});
     }
     for (const KdDbLayout* layout : m_layouts)
         tieLayout(*layout);

@@ -92,6 +92,15 @@ KdDbSymbolTableRecord* ObjectMaker::findOrMake(KdDbSymbolTable& table, const KdR
     return record;
 }
 
+void ObjectMaker::noteMissingOwners()
+{
+    for (const StatedOwner& stated : m_statedOwners) {
+        KdDbObjectId owner;
+        if (m_source.database.getObjectId(owner, stated.owner) != eOk)
+            m_source.findings.add(DrawingFinding::OwnerIsMissing, stated.offset, {}, stated.handle);
+    }
+}
+
 KdString ObjectMaker::freeName(const KdDbSymbolTable& table)
 {
     KdString name;

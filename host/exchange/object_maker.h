@@ -2,6 +2,7 @@
 #pragma once
 
 #include <unordered_set>
+#include <vector>
 
 #include "drawing_source.h"
 #include "handle_set.h"
@@ -16,6 +17,14 @@ struct StatedHandle
 
     /// Takes the value of a group, unless one was taken before.
     void take(const Group& group);
+};
+
+/// What a record says of its owner; 0 where it names none.
+struct StatedOwner
+{
+    KdDbHandle owner = 0;
+    std::uint64_t offset = 0; ///< of the record
+    KdDbHandle handle = 0;    ///< of its object
 };
 
 class ObjectMaker
@@ -49,6 +58,11 @@ class ObjectMaker
     KdDbSymbolTableRecord* add(KdDbSymbolTable& table, const KdRxClass* recordClass,
                                const KdString& name, const StatedHandle& handle, SourceRange range);
 
+    /// Remembers an owner that may not be there.
+    void checkOwnerLater(const StatedOwner& stated) { m_statedOwners.push_back(stated); }
+    /// Notes those that are not in the drawing; called when all handles are known.
+    void noteMissingOwners();
+
     /// A name that no record of the table has.
     KdString freeName(const KdDbSymbolTable& table);
 
@@ -66,6 +80,7 @@ class ObjectMaker
     KdDbDatabaseBuilder m_builder;
     HandleSet m_handles;
     std::unordered_set<const KdDbObject*> m_undefined; ///< records that are only referred to
+    std::vector<StatedOwner> m_statedOwners;
     int m_namesGiven = 0;
 };
 

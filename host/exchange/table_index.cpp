@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "group_values.h"
+
 namespace dxf {
 namespace {
 
@@ -49,6 +51,7 @@ const TableRow* findRow(std::string_view name)
 struct EntryHead
 {
     StatedHandle handle;
+    KdDbHandle owner = 0;
     KdString name;
 };
 
@@ -56,10 +59,17 @@ EntryHead readHead(RecordCursor& cursor, const TableRow& row, const TextDecoder&
 {
     EntryHead head;
     bool hasName = false;
+    bool inFirstPart = true;
+    bool inApplicationGroup = false;
     while (cursor.nextInRecord()) {
         const Group& group = cursor.group();
+        inFirstPart = inFirstPart && group.code != 100;
         if (group.code == row.handleCode) {
             head.handle.take(group);
+        } else if (group.code == 102) {
+            inApplicationGroup = group.text.starts_with('{');
+        } else if (group.code == 330 && inFirstPart && !inApplicationGroup) {
+            head.owner = looseHandleOf(group);
         } else if (group.code == 2 && !hasName) {
             head.name = decoder.decode(group.text);
             hasName = true;
@@ -87,7 +97,7 @@ void TableIndex::read(RecordCursor& cursor)
             else
                 cursor.toNextRecord();
         } else {
-            readEntry(cursor);
+            readEntry(cursor, isOpen);
         }
     }
     if (isOpen)
@@ -112,7 +122,7 @@ void TableIndex::readTable(RecordCursor& cursor)
         m_maker.identify(table, handle, cursor.rangeFrom(begin, m_source.findings));
 }
 
-void TableIndex::readEntry(RecordCursor& cursor)
+void TableIndex::readEntry(RecordCursor& cursor, bool inTable)
 {
     // The entry says what it is, also in a table that does not.
     const TableRow* row = findRow(cursor.name());
@@ -126,6 +136,10 @@ void TableIndex::readEntry(RecordCursor& cursor)
     const std::uint64_t begin = cursor.offset();
     EntryHead head = readHead(cursor, *row, m_source.decoder);
     const SourceRange range = cursor.rangeFrom(begin, m_source.findings);
+    if (!inTable)
+        m_source.findings.add(DrawingFinding::RecordOutsideTable, begin, {}, head.handle.value);
+    if (head.owner != 0)
+        m_maker.checkOwnerLater({head.owner, begin, head.handle.value});
     KdDbSymbolTable& table = row->table(m_source.database);
     const bool isBlock = row->recordClass() == KdDbBlockTableRecord::desc();
     const bool mayBeNameless = row->recordClass() == KdDbTextStyleTableRecord::desc();

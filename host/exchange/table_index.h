@@ -30,7 +30,7 @@ class TableIndex
 
   private:
     void readTable(RecordCursor& cursor);
-    void readEntry(RecordCursor& cursor);
+    void readEntry(RecordCursor& cursor, bool inTable);
 
     DrawingSource& m_source;
     ObjectMaker& m_maker;

@@ -1,12 +1,18 @@
+#include <fstream>
+#include <iterator>
 #include <set>
 #include <string>
 
 #include <gtest/gtest.h>
 
+#include <runtime/utf8.h>
+
 #include "findings.h"
 #include "made_drawing.h"
 
 namespace {
+
+constexpr int kKinds = 31;
 
 struct FindingCase
 {
@@ -84,6 +90,11 @@ const std::vector<FindingCase>& samples()
         {"versionThatIsNone", F::UnknownVersion, headerWith("9\n$ACADVER\n1\nlatest\n"), 5},
         {"unknownSection", F::UnknownSection,
          "0\nSECTION\n2\nENTITES\n0\nLINE\n0\nENDSEC\n0\nEOF\n", 1, false},
+        {"recordOutsideTable", F::RecordOutsideTable, tables("0\nLAYER\n2\nA\n"), 5},
+        {"recordBehindItsTable", F::RecordOutsideTable,
+         tables("0\nTABLE\n2\nLAYER\n0\nENDTAB\n0\nLAYER\n2\nA\n"), 11},
+        {"ownerOfTableRecordIsMissing", F::OwnerIsMissing,
+         tables("0\nTABLE\n2\nLAYER\n0\nLAYER\n5\n10\n330\nFF\n2\nA\n0\nENDTAB\n"), 9},
         {"unknownTable", F::UnknownTable, tables("0\nLAYR\n2\nA\n"), 5, false},
         // The same kinds in other places.
         {"numberThatIsNone", F::BadNumber, entities("0\nLINE\n8\n0\n10\nnan\n"), 9, false},
@@ -126,7 +137,20 @@ TEST(FindingSamples, CoverEveryKindButRecordsOfGigabytes)
         covered.insert(row.kind);
     for (int number = 1; *drawingFindingSentence(static_cast<DrawingFinding>(number)); ++number)
         EXPECT_TRUE(covered.contains(static_cast<DrawingFinding>(number))) << number;
-    EXPECT_EQ(covered.size(), 30u);
+    EXPECT_EQ(covered.size(), static_cast<std::size_t>(kKinds));
+}
+
+TEST(FindingSamples, StandInTheManual)
+{
+    std::ifstream file(KW_SOURCE_DIR "/docs/drawing_files.md");
+    const std::string manual{std::istreambuf_iterator<char>(file), {}};
+    for (int number = 1; number <= kKinds; ++number) {
+        const auto kind = static_cast<DrawingFinding>(number);
+        const std::string row = "| " + std::to_string(number) + " | " +
+                                kdToUtf8(drawingFindingSentence(kind)) + " | " +
+                                (drawingFindingLosesContent(kind) ? "yes" : "") + " |\n";
+        EXPECT_NE(manual.find(row), std::string::npos) << row;
+    }
 }
 
 TEST(Findings, TellTheNameConcerned)

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdlib>
 #include <filesystem>
+#include <iterator>
 #include <map>
 #include <string>
 #include <vector>
@@ -23,12 +24,13 @@ fs::path collection()
     return stated ? fs::path(stated) : fs::path(KW_SOURCE_DIR) / "../shared/drawings";
 }
 
-std::vector<std::string> drawings()
+/// The files of the collection with that extension.
+std::vector<std::string> filesOf(const std::string& extension)
 {
     std::vector<std::string> names;
     std::error_code missing;
     for (fs::recursive_directory_iterator at(collection(), missing), end; at != end; ++at) {
-        if (at->path().extension() == ".dxf")
+        if (at->path().extension() == extension)
             names.push_back(fs::relative(at->path(), collection()).string());
     }
     std::sort(names.begin(), names.end());
@@ -73,8 +75,49 @@ TEST_P(SampleDrawing, IsRead)
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Collection, SampleDrawing, testing::ValuesIn(drawings()),
+INSTANTIATE_TEST_SUITE_P(Collection, SampleDrawing, testing::ValuesIn(filesOf(".dxf")),
                          [](const auto& row) { return testName(row.param); });
+
+/// What is to be found in drawings that are known to be damaged.
+struct DamagedSample
+{
+    const char* drawing;
+    DrawingFinding finding;
+};
+
+constexpr DamagedSample kDamaged[] = {
+    {"odd/assorted_badtag.dxf", DrawingFinding::BadNumber},
+    {"odd/open_section.dxf", DrawingFinding::SectionNotClosed},
+    {"odd/recursive_blocks.dxf", DrawingFinding::BlockHoldsItself},
+    {"odd/duplicate_handles_r13.dxf", DrawingFinding::HandleIsDoubled},
+    {"odd/blocks_no_name_r12.dxf", DrawingFinding::MissingName},
+    {"odd/tables_broken_r2018.dxf", DrawingFinding::RecordOutsideTable},
+    {"odd/decimal_commas.dxf", DrawingFinding::DecimalComma},
+    {"odd/handle_zero_r13.dxf", DrawingFinding::HandleIsZero},
+    {"converted/electrical_cjk_r2004_misdeclared.dxf", DrawingFinding::CodePageIsWrong},
+};
+
+std::vector<DamagedSample> damagedSamples()
+{
+    std::vector<DamagedSample> there;
+    std::ranges::copy_if(kDamaged, std::back_inserter(there), [](const DamagedSample& sample) {
+        return fs::exists(collection() / sample.drawing);
+    });
+    return there;
+}
+
+class DamagedDrawing : public testing::TestWithParam<DamagedSample>
+{
+};
+GTEST_ALLOW_UNINSTANTIATED_PARAMETERIZED_TEST(DamagedDrawing);
+
+TEST_P(DamagedDrawing, HasWhatIsWrongWithItReported)
+{
+    EXPECT_TRUE(readWhole(GetParam().drawing).hasFinding(GetParam().finding));
+}
+
+INSTANTIATE_TEST_SUITE_P(Collection, DamagedDrawing, testing::ValuesIn(damagedSamples()),
+                         [](const auto& row) { return testName(row.param.drawing); });
 
 /// One drawing in two forms.
 struct Twins
@@ -161,17 +204,7 @@ TEST_P(SampleOf, DwgIsTurnedAway)
     EXPECT_GE(report.error.find(L"DWG"), 0);
 }
 
-std::vector<std::string> dwgs()
-{
-    std::vector<std::string> names;
-    for (const char* name : {"dwg/acs_r14.dwg", "dwg/acs_r2018.dwg"}) {
-        if (fs::exists(collection() / name))
-            names.emplace_back(name);
-    }
-    return names;
-}
-
-INSTANTIATE_TEST_SUITE_P(Collection, SampleOf, testing::ValuesIn(dwgs()),
+INSTANTIATE_TEST_SUITE_P(Collection, SampleOf, testing::ValuesIn(filesOf(".dwg")),
                          [](const auto& row) { return testName(row.param); });
 
 } // namespace

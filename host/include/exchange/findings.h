@@ -40,6 +40,7 @@ enum class DrawingFinding : int
     UnknownVersion = 28,
     UnknownSection = 29,
     UnknownTable = 30,
+    RecordOutsideTable = 31,
 };
 
 /// The sentence that explains a kind of finding; empty for a number that is none.
