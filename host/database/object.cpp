@@ -114,7 +114,10 @@ const resbuf* KdDbObject::extendedData(const wchar_t* application, const resbuf*
     end = first;
     while (end && end->restype != kApplicationName)
         end = end->rbnext;
-    return first == end ? nullptr : first;
+    if (first != end)
+        return first;
+    end = nullptr; // so that a walk from the one to the other ends at once
+    return nullptr;
 }
 
 std::span<const KdDbObjectId> KdDbObject::reactors() const

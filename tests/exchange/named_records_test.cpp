@@ -130,6 +130,28 @@ TEST(TextStyleRecord, HasAllThatIsSaidOfIt)
     EXPECT_TRUE(style->isItalic());
 }
 
+TEST(ExtendedData, MayHoldNothingForAnApplication)
+{
+    const Groups nothing{{2, "A"},
+                         {1001, "ACAD"},
+                         {1001, "AcCmTransparency"},
+                         {1001, "AcAecLayerStandard"},
+                         {1001, "AcadAnnotative"},
+                         {1001, "OTHER"},
+                         {1000, "x"}};
+    for (const char* kind : {"LAYER", "STYLE", "BLOCK_RECORD"}) {
+        const ReadDrawing drawn =
+            readGroupsWhole(drawing({header("AC1009"), table(kind, nothing)}));
+        ASSERT_EQ(drawn.status, eOk);
+        for (const KdDbObject* each : drawn.database->objects()) {
+            const resbuf* end = nullptr;
+            EXPECT_EQ(each->extendedData(L"ACAD", end), nullptr);
+            EXPECT_EQ(end, nullptr);
+            EXPECT_FALSE(each->isAnnotative());
+        }
+    }
+}
+
 TEST(ViewportRecord, HasItsView)
 {
     const ReadDrawing drawn = readGroups(drawing({table(

@@ -78,9 +78,9 @@ class KW_EXPORT KdDbObject : public KdRxObject
     /// Id of the dictionary that extends this object, or the null id.
     KdDbObjectId extensionDictionary() const { return members().extensionDictionary; }
     /// The records of one application's extended data behind its 1001 record, up to the next
-    /// application's; null if there are none. The application's name is compared without case; null
-    /// stands for all applications, and then the 1001 records are there, too. The chain belongs to
-    /// the object; `end` receives the first record that no longer counts.
+    /// application's. The application's name is compared without case; null stands for all
+    /// applications, and then the 1001 records are there, too. The chain belongs to the object;
+    /// `end` receives the first record that no longer counts. Both are null if there are none.
     const resbuf* extendedData(const wchar_t* application, const resbuf*& end) const;
     /// The objects that want to hear of changes to this one.
     std::span<const KdDbObjectId> reactors() const;
