@@ -96,6 +96,7 @@ void writeAndRead(const KdDbDatabase& database, const std::vector<KdDbObjectId>&
     std::unique_ptr<KdDbDatabase> written;
     ReadReport report;
     require(readDrawing(scratchFile(), written, report) == eOk);
+    std::filesystem::remove(scratchFile());
     for (const ReadFinding& finding : report.findings) {
         const auto kind = static_cast<DrawingFinding>(finding.number);
         require(kind != DrawingFinding::NoEndOfFile && kind != DrawingFinding::SectionNotClosed);

@@ -114,9 +114,28 @@ KdErrorStatus KdDbDatabase::getPlotStyleNameDictionary(KdDbDictionary*& dictiona
 
 void KdDbDatabase::sortHandles() const
 {
-    std::stable_sort(
-        m_byHandle.begin(), m_byHandle.end(),
-        [](const KdDbObject* a, const KdDbObject* b) { return a->handle() < b->handle(); });
+    // A file holds a few long ascending runs of handles, so whole runs are merged: neighbours
+    // first, until one is left. Of equal handles the first stays in front.
+    const auto isLess = [](const KdDbObject* a, const KdDbObject* b) {
+        return a->handle() < b->handle();
+    };
+    using Place = std::vector<KdDbObject*>::iterator;
+    std::vector<Place> ends;
+    for (Place at = m_byHandle.begin(); at != m_byHandle.end();) {
+        at = std::is_sorted_until(at, m_byHandle.end(), isLess);
+        ends.push_back(at);
+    }
+    while (ends.size() > 1) {
+        std::vector<Place> merged;
+        Place begin = m_byHandle.begin();
+        for (std::size_t i = 0; i < ends.size(); i += 2) {
+            const Place end = i + 1 < ends.size() ? ends[i + 1] : ends[i];
+            std::inplace_merge(begin, ends[i], end, isLess);
+            merged.push_back(end);
+            begin = end;
+        }
+        ends.swap(merged);
+    }
     m_handlesAreSorted = true;
 }
 
