@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
-"""Turns the texts of a gettext PO file into the source of a resource library.
+"""Turns the texts of a gettext PO file, and dialog layouts, into the source of a resource library.
 
-usage: compile_texts.py texts.po library.cpp
+usage: compile_texts.py texts.po library.cpp [group/name=layout.ui ...]
 
 In the PO file msgctxt is the number of a text, msgid its English default and msgstr the text in the
 file's language. A text that is missing or marked fuzzy stays English. The source holds one constant,
@@ -11,6 +11,8 @@ a ResourceTable (see platform/resource_table.h), laid out here so that nothing i
 import re
 import sys
 from pathlib import Path
+
+import layouts
 
 GREATEST_ID = 2**31 - 1
 HASH_MULTIPLIER = 2654435769  # the same as in platform/resource_table.h
@@ -142,7 +144,19 @@ def slots_of(offsets, texts):
     return 32 - bits, slots
 
 
-def source_of(texts, origin):
+def rows_of(layout_bytes):
+    """The constants of the layouts and the rows that name them."""
+    constants = ""
+    rows = []
+    for number, (path, data) in enumerate(layout_bytes.items()):
+        constants += f"constexpr char kLayout{number}[] =\n{layouts.literal(data)};\n\n"
+        rows.append(f"    {{{literal(path)}, kLayout{number}, {len(data)}u}},")
+    if rows:
+        constants += "constexpr ResourceLayout kLayouts[] = {\n" + "\n".join(rows) + "\n};\n\n"
+    return constants, "kLayouts" if rows else "nullptr"
+
+
+def source_of(texts, origin, layout_bytes):
     offsets = {}  # of each text; numbers with the same text share it
     end = 0
     for text in dict.fromkeys(texts.values()):
@@ -151,6 +165,7 @@ def source_of(texts, origin):
     shift, slots = slots_of(offsets, texts)
     characters = "\n".join("    " + literal(text) for text in offsets)
     rows = "\n".join(f"    {{{number}u, {offset}u, {length}u}}," for number, offset, length in slots)
+    constants, layout_rows = rows_of(layout_bytes)
     return f"""// Made from {origin}; change that file instead.
 #include <platform/resource_table.h>
 
@@ -163,22 +178,28 @@ constexpr ResourceSlot kSlots[] = {{
 {rows}
 }};
 
-}} // namespace
+{constants}}} // namespace
 
-extern "C" const ResourceTable kwResourceTable = {{kResourceTableVersion, {shift}u, kSlots, kCharacters}};
+extern "C" const ResourceTable kwResourceTable = {{
+    kResourceTableVersion, {shift}u, kSlots, kCharacters, {layout_rows}, {len(layout_bytes)}u}};
 """
 
 
 def main(arguments):
-    if len(arguments) != 2:
+    pairs = [argument.partition("=") for argument in arguments[2:]]
+    if len(arguments) < 2 or not all(path and file for path, _, file in pairs):
         print(__doc__, file=sys.stderr)
         return 2
     po = Path(arguments[0])
     try:
         lines = po.read_text(encoding="utf-8").split("\n")
-        Path(arguments[1]).write_text(source_of(texts_of(lines), po.name), encoding="ascii")
+        texts = texts_of(lines)
+        layout_bytes = {path: layouts.layout_of(file, texts) for path, _, file in pairs}
+        Path(arguments[1]).write_text(source_of(texts, po.name, layout_bytes), encoding="ascii")
     except PoError as error:
         print(f"{po}:{error.line}: {error}", file=sys.stderr)
+    except layouts.LayoutError as error:
+        print(error, file=sys.stderr)
     except UnicodeDecodeError as error:
         line = error.object.count(b"\n", 0, error.start) + 1
         print(f"{po}:{line}: the text is not UTF-8", file=sys.stderr)

@@ -102,14 +102,22 @@ KdDbObjectId KdDbDatabase::activeSheetId() const
     return id;
 }
 
+KdErrorStatus KdDbDatabase::openNamedDictionary(const wchar_t* name, KdDbDictionary*& dictionary,
+                                                KdDb::OpenMode mode) const
+{
+    const KdDbObjectId id = kddbDictionaryEntry(m_namedObjects, name);
+    return id.isNull() ? eKeyNotFound : kddbOpenObject(dictionary, id, mode);
+}
+
 KdErrorStatus KdDbDatabase::getPlotStyleNameDictionary(KdDbDictionary*& dictionary,
                                                        KdDb::OpenMode mode)
 {
-    const OpenForRead<KdDbDictionary> named(m_namedObjects);
-    KdDbObjectId id;
-    if (!named || named->getAt(L"ACAD_PLOTSTYLENAME", id) != eOk)
-        return eKeyNotFound;
-    return kddbOpenObject(dictionary, id, mode);
+    return openNamedDictionary(L"ACAD_PLOTSTYLENAME", dictionary, mode);
+}
+
+KdErrorStatus KdDbDatabase::getMaterialDictionary(KdDbDictionary*& dictionary, KdDb::OpenMode mode)
+{
+    return openNamedDictionary(L"ACAD_MATERIAL", dictionary, mode);
 }
 
 void KdDbDatabase::sortHandles() const

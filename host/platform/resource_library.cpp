@@ -32,3 +32,13 @@ std::wstring_view ResourceLibrary::find(unsigned int id) const
     }
     return {};
 }
+
+std::string_view ResourceLibrary::findLayout(std::wstring_view path) const
+{
+    for (std::uint32_t i = 0; i < m_table.layoutCount; ++i) {
+        const ResourceLayout& layout = m_table.layouts[i];
+        if (layout.path == path)
+            return {layout.xml, layout.size};
+    }
+    return {};
+}

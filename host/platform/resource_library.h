@@ -15,6 +15,8 @@ class ResourceLibrary
 
     /// Empty if there is no such text. Lives as long as the process.
     std::wstring_view find(unsigned int id) const;
+    /// The XML of a layout; empty if there is none of that path. Lives as long as the process.
+    std::string_view findLayout(std::wstring_view path) const;
 
   private:
     explicit ResourceLibrary(const ResourceTable& table) : m_table(table) {}

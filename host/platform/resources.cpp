@@ -1,5 +1,7 @@
 #include <platform/resources.h>
 
+#include <platform/resource_layouts.h>
+
 #include "resource_library.h"
 #include "resource_search.h"
 
@@ -116,6 +118,11 @@ int LoadStringW(HINSTANCE module, unsigned int id, wchar_t* buffer, int size)
     const std::size_t count = std::min(text.size(), static_cast<std::size_t>(size - 1));
     buffer[text.copy(buffer, count)] = L'\0';
     return static_cast<int>(count);
+}
+
+std::string_view kdFindLayout(HINSTANCE module, std::wstring_view path)
+{
+    return module ? module->findLayout(path) : std::string_view();
 }
 
 HINSTANCE LoadResourceDll(const wchar_t* name)

@@ -67,6 +67,8 @@ class KW_EXPORT KdDbDatabase
     KdDbObjectId namedObjectsDictionaryId() const { return m_namedObjects; }
     /// Opens the dictionary of plot style names; `eKeyNotFound` if the drawing has none.
     KdErrorStatus getPlotStyleNameDictionary(KdDbDictionary*& dictionary, KdDb::OpenMode mode);
+    /// Opens the dictionary of materials; `eKeyNotFound` if the drawing has none.
+    KdErrorStatus getMaterialDictionary(KdDbDictionary*& dictionary, KdDb::OpenMode mode);
     /// The object of a handle; `eKeyNotFound` if there is none, `id` untouched.
     KdErrorStatus getObjectId(KdDbObjectId& id, KdDbHandle handle) const;
 
@@ -107,6 +109,8 @@ class KW_EXPORT KdDbDatabase
     friend class KdDbDatabaseBuilder;
     friend KdErrorStatus kddbOpenKdDbObject(KdDbObject*&, KdDbObjectId, int, bool);
 
+    KdErrorStatus openNamedDictionary(const wchar_t* name, KdDbDictionary*& dictionary,
+                                      KdDb::OpenMode mode) const;
     KdDbObject* findTable(const KdRxClass* tableClass) const;
     KdDbObject& tableObject(const KdRxClass* tableClass) const;
     void own(KdDbObject& object);
