@@ -10,7 +10,7 @@
 
 namespace {
 
-constexpr int kCell = 16;
+constexpr int kCell = 23;
 constexpr int kGap = 10; // between the three fields, and below them for the number
 constexpr int kColumns = 24;
 constexpr int kShades = 10;

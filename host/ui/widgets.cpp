@@ -2,7 +2,12 @@
 
 #include <ui/controls.h>
 
+#include <QAbstractItemView>
+#include <QScreen>
 #include <QStandardItemModel>
+#include <QStyle>
+
+#include <algorithm>
 
 namespace {
 
@@ -44,6 +49,10 @@ void KdUiComboBox::addOtherRow(const QString& text)
 void KdUiComboBox::showPopup()
 {
     enableOtherRow(true);
+    // Long names are shown whole, as far as there is room.
+    const int roomForScrollBar = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    const int wanted = view()->sizeHintForColumn(0) + roomForScrollBar;
+    view()->setMinimumWidth(std::min(wanted, screen()->availableGeometry().width() / 2));
     QComboBox::showPopup();
 }
 

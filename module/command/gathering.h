@@ -3,7 +3,7 @@
 
 #include <vector>
 
-#include <command/host_set.h>
+#include <values/host_set.h>
 
 class KdDbEntity;
 

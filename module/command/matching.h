@@ -2,7 +2,7 @@
 #pragma once
 
 #include <command/gathering.h>
-#include <command/host_set.h>
+#include <values/host_set.h>
 #include <dialog/filter_record.h>
 
 /// What a run over the candidates found.

@@ -11,7 +11,7 @@ struct DialogParameters
 {
     DialogParameters();
 
-    ResBuf* filter = nullptr;        ///< head of the filter chain; the run only reads it
+    ResBuf* filter = nullptr;        ///< head of the filter chain, freed by whoever made it
     bool include = true;             ///< the matches themselves, not their complement
     bool append = false;             ///< add to the current selection
     bool entireDrawing = true;       ///< all of the current space, not a selection

@@ -120,7 +120,8 @@ FilterValue readTransparency(int kind, int, const KdString& text)
         if (is(word, id, defaultText))
             return made(ResBuf::newRb(kind, word), kind);
     }
-    const bool isNumber = wanted.view().find_first_not_of(L"0123456789") == wanted.view().npos;
+    const bool isNumber =
+        !wanted.isEmpty() && wanted.view().find_first_not_of(L"0123456789") == wanted.view().npos;
     return made(ResBuf::newRb(kind, wanted.kwszPtr()), kind,
                 isNumber ? FilterText::Read : FilterText::Unreadable);
 }
@@ -217,7 +218,7 @@ bool isColorWord(const KdString& text, short index)
            strisameW(text.kwszPtr(), __ResourceString(34341, L"BYBlock"));
 }
 
-FilterValue readColor(int kind, int, const KdString& text)
+FilterValue readColor(int, int, const KdString& text)
 {
     KdCmColor color;
     const short index = Color2Number(text.kwszPtr());
@@ -226,9 +227,7 @@ FilterValue readColor(int kind, int, const KdString& text)
             return {FilterText::Unreadable};
         color.setColorIndex(index);
     }
-    ResBuf* record = ResBuf::newRb(kind);
-    record->setColor(color);
-    return made(record, kind);
+    return filterOfColor(color);
 }
 
 struct KindReader
@@ -248,7 +247,7 @@ constexpr KindReader kReaders[] = {
     {ResBuf::kInt16, false, readInteger},
     {ResBuf::kInt32, false, readInteger},
     {ResBuf::kBool, false, readBool},
-    {ResBuf::kTransparencyText, false, readTransparency},
+    {ResBuf::kTransparencyText, true, readTransparency},
     {ResBuf::kString, true, readName},
     {ResBuf::kLayerName, true, readTableName<KdDbLayerTable>},
     {ResBuf::kLinetypeName, false, readTableName<KdDbLinetypeTable>},
@@ -278,4 +277,11 @@ FilterValue readFilterValue(int kind, int axis, const KdString& text)
                                     : FilterValue{FilterText::Unreadable};
     }
     return {FilterText::Unreadable};
+}
+
+FilterValue filterOfColor(const KdCmColor& color)
+{
+    ResBuf* record = ResBuf::newRb(ResBuf::kColor);
+    record->setColor(color);
+    return made(record, ResBuf::kColor);
 }

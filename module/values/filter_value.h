@@ -1,6 +1,7 @@
 /// From the text that a person types to the value that a run compares with.
 #pragma once
 
+#include <database/color.h>
 #include <runtime/kd_string.h>
 
 #include <values/res_buf.h>
@@ -19,7 +20,7 @@ struct FilterValue
     FilterText text = FilterText::Empty;
     /// Owned by whoever takes it. Beside `Unreadable` there may be a record as well, for callers
     /// that go on with it: 1.0 for reals, false for words that are none, the text for a
-    /// transparency.
+    /// transparency, also an empty one.
     ResBuf* record = nullptr;
     /// The kind of the comparison, see `PropertyParameters`.
     int valueType = ResBuf::kNone;
@@ -29,3 +30,6 @@ struct FilterValue
 /// @param kind  restype of the property's value
 /// @param axis  1 X, 2 Y, 3 Z: the coordinate that the text is, for the point kinds
 FilterValue readFilterValue(int kind, int axis, const KdString& text);
+
+/// The value for a colour that was picked and not typed.
+FilterValue filterOfColor(const KdCmColor& color);

@@ -13,6 +13,8 @@ class HostSet
     HostSet();
     /// The implied selection. Without one the set is empty and `status` says so.
     static HostSet implied();
+    /// What the user picks at the host's prompt. Empty, and `status` says so, if that is nothing.
+    static HostSet promptedFor();
     /// Everything of the current space that a run over the whole drawing may meet; may be empty.
     static HostSet currentSpace();
     ~HostSet();
@@ -38,6 +40,7 @@ class HostSet
     {
     };
     explicit HostSet(Unmade) {}
+    static HostSet ofMode(const wchar_t* mode);
     void free();
 
     kds_name m_name = {0, 0};

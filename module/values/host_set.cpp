@@ -1,4 +1,4 @@
-#include <command/host_set.h>
+#include <values/host_set.h>
 
 #include <utility>
 
@@ -14,11 +14,21 @@ constexpr int kSelectableInSpace = kKdedCurrentSpaceOnly | kKdedPickableOnly;
 
 HostSet::HostSet() : m_status(kdedSSAdd(nullptr, nullptr, m_name)) {}
 
-HostSet HostSet::implied()
+HostSet HostSet::ofMode(const wchar_t* mode)
 {
     HostSet set{Unmade{}};
-    set.m_status = kdedSSGet(L"I", nullptr, nullptr, nullptr, set.m_name);
+    set.m_status = kdedSSGet(mode, nullptr, nullptr, nullptr, set.m_name);
     return set;
+}
+
+HostSet HostSet::implied()
+{
+    return ofMode(L"I");
+}
+
+HostSet HostSet::promptedFor()
+{
+    return ofMode(nullptr);
 }
 
 HostSet HostSet::currentSpace()

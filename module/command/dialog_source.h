@@ -1,0 +1,25 @@
+/// The filter of a run, asked for in a dialog.
+#pragma once
+
+#include <memory>
+
+#include <command/filter_source.h>
+
+class CQSelectDialog;
+
+/// Shows the dialog. It and the filter in it live as long as the source.
+class DialogSource : public FilterSource
+{
+  public:
+    DialogSource();
+    ~DialogSource() override;
+    DialogSource(const DialogSource&) = delete;
+    DialogSource& operator=(const DialogSource&) = delete;
+
+    /// In a program without windows it says so on the command line and answers false.
+    bool ask(const std::vector<KdDbEntity*>& drawingTypes,
+             const std::vector<KdDbEntity*>& selectionTypes, FilterChoice& choice) override;
+
+  private:
+    std::unique_ptr<CQSelectDialog> m_dialog;
+};
