@@ -8,6 +8,7 @@
 
 #include <QColorDialog>
 #include <QDialogButtonBox>
+#include <QPushButton>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
@@ -48,6 +49,8 @@ KdUiColorDialog::KdUiColorDialog(const KdCmColor& initial, QWidget* parent)
     m_pages->setCurrentIndex(initial.colorMethod() == KdCmColor::kByColor ? 1 : 0);
 
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
+    // The mixer has a default button of its own, which nobody sees.
+    buttons->button(QDialogButtonBox::Ok)->setDefault(true);
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     connect(m_palette, &KdUiPaletteView::picked, this, &QDialog::accept);

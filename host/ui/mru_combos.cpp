@@ -112,6 +112,8 @@ KdCmColor CKdUiTrueColorComboBox::GetCurrentItemColor() const
 void CKdUiTrueColorComboBox::insertColor(int row, const KdCmColor& color)
 {
     KdUiComboBox* combo = comboOf(*this);
+    // The current row may move along, which is no choice of another one.
+    const QSignalBlocker quiet(combo);
     combo->insertItem(row, colorSample(color), colorName(color));
     combo->setItemData(row, color.color(), kColorWord);
 }

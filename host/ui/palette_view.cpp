@@ -31,6 +31,7 @@ int rowOfShade(int shade)
 
 KdUiPaletteView::KdUiPaletteView(QWidget* parent) : QWidget(parent)
 {
+    setObjectName("palette");
     setFocusPolicy(Qt::StrongFocus);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     setAccessibleName(tr("Numbered colors"));
