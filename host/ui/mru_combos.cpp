@@ -142,7 +142,7 @@ int CKdUiTrueColorComboBox::AddColor(const KdCmColor& color)
 
 int CKdUiTrueColorComboBox::askForOther()
 {
-    KdUiColorDialog dialog(GetCurrentItemColor(), widget()->window());
+    KdUiColorDialog dialog(colorAt(lastRow()), widget()->window());
     return dialog.exec() == QDialog::Accepted ? AddColor(dialog.color()) : -1;
 }
 

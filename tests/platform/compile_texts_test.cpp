@@ -129,4 +129,17 @@ TEST_F(CompileTexts, WritesTheSameSourceForTheSameTexts)
     EXPECT_EQ(before, std::string(std::istreambuf_iterator<char>(second), {}));
 }
 
+TEST_F(CompileTexts, SaysWhatIsWrongWithALayout)
+{
+    std::ofstream(m_folder / "texts.po") << "msgctxt \"1\"\nmsgid \"a\"\nmsgstr \"\"\n";
+    std::ofstream(m_folder / "broken.ui") << "<ui>";
+    std::ofstream(m_folder / "strange.ui") << "<ui><string comment=\"2\">b</string></ui>";
+    EXPECT_EQ(run("texts.po out.cpp g/n=broken.ui"), 1);
+    EXPECT_EQ(m_said.find("broken.ui: no element found"), 0u) << m_said;
+    EXPECT_EQ(run("texts.po out.cpp g/n=strange.ui"), 1);
+    EXPECT_EQ(m_said, "strange.ui: there is no text of the number \"2\"\n");
+    EXPECT_EQ(run("texts.po out.cpp strange.ui"), 2);
+    EXPECT_FALSE(fs::exists(source()));
+}
+
 } // namespace

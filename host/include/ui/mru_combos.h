@@ -25,6 +25,8 @@ class KW_EXPORT CKdUiMRUComboBox : public CComboBox
     virtual void fill() = 0;
     /// Asks the user for something else and returns its row, or -1.
     virtual int askForOther() { return -1; }
+    /// The row that was chosen before the present one; -1 if there was none.
+    int lastRow() const { return m_lastRow; }
 
   private:
     int m_lastRow = -1;
