@@ -2,8 +2,8 @@
 #pragma once
 
 #include <command/gathering.h>
-#include <values/host_set.h>
 #include <dialog/filter_record.h>
+#include <values/host_set.h>
 
 /// What a run over the candidates found.
 struct Matches

@@ -3,7 +3,6 @@
 #include <database/database.h>
 #include <editor/command_line.h>
 #include <editor/selection_sets.h>
-#include <editor/system_variables.h>
 #include <platform/message_box.h>
 #include <ui/help.h>
 #include <ui/theme.h>
@@ -28,14 +27,9 @@
 
 #include <kwbrowse/entity_model.h>
 #include <kwbrowse/help_window.h>
+#include <kwbrowse/remembered_variables.h>
 
 namespace {
-
-bool isLightTheme()
-{
-    resbuf theme{};
-    return kdedGetVar(L"COLORTHEME", &theme) == RTNORM && theme.resval.rint == 1;
-}
 
 /// A selection set of the window's own, freed at the end of its scope.
 class Set
@@ -130,8 +124,14 @@ void BrowseWindow::makeActions()
 
     auto* light = new QAction(tr("&Light Colors"), this);
     light->setCheckable(true);
-    light->setChecked(isLightTheme());
+    light->setChecked(switchValue(L"COLORTHEME") == 1);
     connect(light, &QAction::toggled, this, &BrowseWindow::setLightTheme);
+
+    auto* listed = new QAction(tr("List the &Values of Texts"), this);
+    listed->setCheckable(true);
+    listed->setChecked(switchValue(L"QSELECTLISTVALUES") == 1);
+    connect(listed, &QAction::toggled, this,
+            [](bool on) { setSwitch(L"QSELECTLISTVALUES", on ? 1 : 0); });
 
     auto* help = new QAction(tr("&Quick Select"), this);
     connect(help, &QAction::triggered, this, [this] { showHelp(this); });
@@ -140,7 +140,7 @@ void BrowseWindow::makeActions()
     file->addAction(m_open);
     file->addAction(tr("&Quit"), this, &QWidget::close, QKeySequence::Quit);
     menuBar()->addMenu(tr("&Edit"))->addAction(m_quickSelect);
-    menuBar()->addMenu(tr("&View"))->addAction(light);
+    menuBar()->addMenu(tr("&View"))->addActions({light, listed});
     menuBar()->addMenu(tr("&Help"))->addAction(help);
     QToolBar* bar = addToolBar(tr("Commands"));
     bar->setMovable(false);
@@ -213,10 +213,7 @@ void BrowseWindow::quickSelect()
 
 void BrowseWindow::setLightTheme(bool light)
 {
-    resbuf theme{};
-    theme.restype = RTSHORT;
-    theme.resval.rint = light ? 1 : 0;
-    kdedSetVar(L"COLORTHEME", &theme);
+    setSwitch(L"COLORTHEME", light ? 1 : 0);
     kduiApplyColorTheme();
 }
 

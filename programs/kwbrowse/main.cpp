@@ -10,6 +10,7 @@
 #include <CLI/CLI.hpp>
 
 #include <kwbrowse/browse_window.h>
+#include <kwbrowse/remembered_variables.h>
 
 namespace {
 
@@ -18,7 +19,7 @@ constexpr int kCannotWork = 2;
 struct Options
 {
     std::string drawing;
-    std::string colors = "dark";
+    std::string colors; ///< as they were, where it says nothing
 };
 
 /// The exit status, if the options say all there is to do.
@@ -28,8 +29,7 @@ std::optional<int> readOptions(int argc, char** argv, Options& options)
                  "kwbrowse");
     app.add_option("drawing", options.drawing, "a DXF file");
     app.add_option("--colors", options.colors, "the colours of the windows")
-        ->check(CLI::IsMember({"dark", "light"}))
-        ->capture_default_str();
+        ->check(CLI::IsMember({"dark", "light"}));
     app.set_version_flag("--version", KW_VERSION);
     try {
         app.parse(argc, argv);
@@ -55,10 +55,15 @@ int main(int argc, char** argv)
         std::cerr << "kwbrowse: " << module.error() << '\n';
         return kCannotWork;
     }
+    restoreVariables();
+    if (!options.colors.empty())
+        setSwitch(L"COLORTHEME", options.colors == "light" ? 1 : 0);
+    kduiApplyColorTheme();
     BrowseWindow window(module);
-    window.setLightTheme(options.colors == "light");
     window.show();
     if (!options.drawing.empty() && !window.open(QString::fromLocal8Bit(options.drawing.c_str())))
         return kCannotWork;
-    return QApplication::exec();
+    const int status = QApplication::exec();
+    storeVariables();
+    return status;
 }

@@ -20,6 +20,7 @@
 #include <vector>
 
 #include <common/module.h>
+#include <kwbrowse/remembered_variables.h>
 
 namespace {
 
@@ -201,6 +202,20 @@ TEST_F(Browse, SaysWhatIsWrongWithADrawing)
     openPlan();
     EXPECT_FALSE(window->open("/nowhere/plan.dxf"));
     EXPECT_GT(table().model()->rowCount(), 0) << "the drawing that was open stays";
+}
+
+TEST_F(Browse, RemembersItsSwitches)
+{
+    setSwitch(L"QSELECTLISTVALUES", 1);
+    setSwitch(L"COLORTHEME", 1);
+    storeVariables();
+    setSwitch(L"QSELECTLISTVALUES", 0);
+    setSwitch(L"COLORTHEME", 0);
+    restoreVariables();
+    EXPECT_EQ(switchValue(L"QSELECTLISTVALUES"), 1);
+    EXPECT_EQ(switchValue(L"COLORTHEME"), 1);
+    setSwitch(L"QSELECTLISTVALUES", 0);
+    setSwitch(L"COLORTHEME", 0);
 }
 
 TEST_F(Browse, ReplacesOneDrawingByAnother)
