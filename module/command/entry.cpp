@@ -6,6 +6,7 @@
 #include <command/request.h>
 #include <command/resource_scope.h>
 #include <providers/entity_pe.h>
+#include <values/compare.h>
 
 void QSelectInit()
 {
@@ -73,4 +74,10 @@ void QSelectListProperties(KdDbObjectId entity, const wchar_t* onlyKey, bool wit
 void QSelectListOperators(int restype, quick_select::OperatorVisitor visitor, void* context)
 {
     listOperators(restype, visitor, context);
+}
+
+double QSelectTolerance()
+{
+    constexpr double kWithoutPrecision = 1.0e-8;
+    return CompareDynamicEpsilon(kWithoutPrecision);
 }

@@ -34,4 +34,5 @@ KW_EXPORT void QSelectListProperties(KdDbObjectId entity, const wchar_t* onlyKey
                                      quick_select::PropertyVisitor visitor, void* context);
 KW_EXPORT void QSelectListOperators(int restype, quick_select::OperatorVisitor visitor,
                                     void* context);
+KW_EXPORT double QSelectTolerance();
 }

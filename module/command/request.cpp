@@ -4,6 +4,7 @@
 #include <optional>
 
 #include <command/selection_run.h>
+#include <values/compare.h>
 #include <values/filter_value.h>
 #include <values/operators.h>
 
@@ -99,6 +100,9 @@ Result runRequest(const Request& request, const long* ss)
     GivenFilter filter(request);
     if (!readValue(request, *op, filter))
         return {Outcome::BadValue, 0};
+    std::optional<ScopedTolerance> tolerance;
+    if (request.tolerance)
+        tolerance.emplace(*request.tolerance);
     Result result{Outcome::Done, 0};
     result.outcome = outcomeOf(runSelection(ss, filter, result.matches));
     return result;

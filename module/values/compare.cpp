@@ -5,7 +5,9 @@
 #include <cmath>
 #include <cstdint>
 #include <cwchar>
+#include <optional>
 #include <string_view>
+#include <utility>
 
 #include <database/color.h>
 #include <editor/system_variables.h>
@@ -16,6 +18,9 @@
 namespace {
 
 constexpr double kDefaultTolerance = 1.0e-8;
+
+/// In place of the tolerance that follows from the drawing; see `ScopedTolerance`.
+std::optional<double> givenTolerance;
 
 /// Callers offer each kind its own operators only, so a user never comes here.
 bool refuseOperator()
@@ -223,10 +228,23 @@ bool CompareProp(ResBuf* value, ResBuf* filter, PropertyParameters parameters)
 
 double CompareDynamicEpsilon(double fallback)
 {
+    if (givenTolerance)
+        return *givenTolerance;
     resbuf precision{};
     if (kdedGetVar(L"LUPREC", &precision) != RTNORM || precision.resval.rint == -1)
         return fallback;
     return 1.0 / std::pow(10.0, precision.resval.rint);
+}
+
+ScopedTolerance::ScopedTolerance(double tolerance)
+    : m_before(std::exchange(givenTolerance, tolerance))
+{
+    assert(tolerance >= 0.0);
+}
+
+ScopedTolerance::~ScopedTolerance()
+{
+    givenTolerance = m_before;
 }
 
 bool RealEqual(double a, double b, double tolerance)

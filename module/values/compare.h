@@ -1,6 +1,8 @@
 /// The central predicate of a run, does this value satisfy the filter, and the numeric predicates.
 #pragma once
 
+#include <optional>
+
 #include <values/property_parameters.h>
 
 /// Compares the value of an entity with the filter, by operator and kind in `parameters`. Reals
@@ -17,6 +19,20 @@ bool CompareProp(ResBuf* value, ResBuf* filter, PropertyParameters parameters);
 /// The tolerance that follows from the linear precision of the drawing: one displayed unit.
 /// @param fallback  the answer when the precision is not to be had
 double CompareDynamicEpsilon(double fallback);
+
+/// Has reals compared within another tolerance for the length of a scope.
+class ScopedTolerance
+{
+  public:
+    /// @param tolerance  not negative
+    explicit ScopedTolerance(double tolerance);
+    ~ScopedTolerance();
+    ScopedTolerance(const ScopedTolerance&) = delete;
+    ScopedTolerance& operator=(const ScopedTolerance&) = delete;
+
+  private:
+    std::optional<double> m_before;
+};
 
 /// Equality within an absolute tolerance. The arguments differ in part: when `b` itself is within
 /// the tolerance of zero, `a` is tested against zero and not against `b`. A NaN counts as equal,

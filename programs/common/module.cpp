@@ -35,7 +35,7 @@ bool Module::findAll()
            find("selectCmdEx", selectCmdEx) && find("QSelectRun", run) &&
            find("QSelectListTypes", listTypes) && find("QSelectListEntities", listEntities) &&
            find("QSelectListProperties", listProperties) &&
-           find("QSelectListOperators", listOperators);
+           find("QSelectListOperators", listOperators) && find("QSelectTolerance", tolerance);
 }
 
 void Module::unload()

@@ -26,6 +26,7 @@ class Module
     quick_select::QSelectListEntitiesFunction* listEntities = nullptr;
     quick_select::QSelectListPropertiesFunction* listProperties = nullptr;
     quick_select::QSelectListOperatorsFunction* listOperators = nullptr;
+    quick_select::QSelectToleranceFunction* tolerance = nullptr;
 
   private:
     template <class Function>

@@ -1,6 +1,8 @@
 #include "audit.h"
 
+#include <algorithm>
 #include <iostream>
+#include <iterator>
 #include <memory>
 
 #include <database/database.h>
@@ -25,11 +27,14 @@ class AuditPrinter
 class TextPrinter : public AuditPrinter
 {
   public:
-    explicit TextPrinter(const ReadReport& report) : m_report(report) {}
+    TextPrinter(const std::string& file, bool withFile, const ReadReport& report)
+        : m_prefix(withFile ? file + ": " : std::string()), m_report(report)
+    {
+    }
 
     void print(const ReadFinding& finding) override
     {
-        std::cout << (m_report.binary ? "byte " : "line ") << finding.line << ": ";
+        std::cout << m_prefix << (m_report.binary ? "byte " : "line ") << finding.line << ": ";
         if (finding.handle != 0)
             std::cout << "handle " << handleText(finding.handle) << ": ";
         std::cout << kdToUtf8(finding.sentence) << " [" << finding.number << "]\n";
@@ -37,10 +42,11 @@ class TextPrinter : public AuditPrinter
     void end(const ReadReport& report) override
     {
         std::cout.flush();
-        std::cerr << report.totalFindings << " finding(s).\n";
+        std::cerr << m_prefix << report.totalFindings << " finding(s).\n";
     }
 
   private:
+    std::string m_prefix;
     const ReadReport& m_report;
 };
 
@@ -91,28 +97,40 @@ class JsonPrinter : public AuditPrinter
     bool m_isFirst = true;
 };
 
-std::unique_ptr<AuditPrinter> printerFor(const Options& options, const ReadReport& report)
-{
-    if (options.format == "json")
-        return std::make_unique<JsonPrinter>(options.drawing, report);
-    return std::make_unique<TextPrinter>(report);
-}
-
-} // namespace
-
-int auditDrawing(const Options& options)
+ExitStatus auditDrawing(const std::string& file, const Plan& plan)
 {
     ReadReport report;
-    const std::unique_ptr<AuditPrinter> printer = printerFor(options, report);
+    std::unique_ptr<AuditPrinter> printer;
+    if (plan.options.format)
+        printer = std::make_unique<JsonPrinter>(file, report);
+    else
+        printer = std::make_unique<TextPrinter>(file, plan.hasSeveralDrawings(), report);
     ReadOptions reading;
     reading.readAllMembers = true;
     reading.found = [&](const ReadFinding& finding) { printer->print(finding); };
     std::unique_ptr<KdDbDatabase> database;
-    const int status = readOrTell(options.drawing, database, report, reading);
+    const ExitStatus status = readOrTell(file, database, report, reading);
     if (status != kSelected)
         return status;
     printer->end(report);
     if (!report.complete)
         return kReadInPart;
     return report.totalFindings > 0 ? kHasFindings : kSelected;
+}
+
+} // namespace
+
+ExitStatus auditDrawings(const Plan& plan)
+{
+    constexpr ExitStatus kByGravity[] = {kInterrupted, kCannotWork, kReadInPart, kHasFindings,
+                                         kSelected};
+    ExitStatus worst = kSelected;
+    for (const std::string& file : plan.drawings) {
+        const ExitStatus status = auditDrawing(file, plan);
+        worst = *std::find_if(std::begin(kByGravity), std::end(kByGravity),
+                              [&](ExitStatus one) { return one == worst || one == status; });
+        if (status == kInterrupted)
+            break;
+    }
+    return worst;
 }

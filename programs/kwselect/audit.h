@@ -1,7 +1,9 @@
-/// The command line's --audit.
+/// What is wrong with drawing files.
 #pragma once
 
-#include "options.h"
+#include "exit_status.h"
+#include "plan.h"
 
-/// Reads a drawing whole and prints everything that is wrong with it. Returns the exit status.
-int auditDrawing(const Options& options);
+/// Reads the drawings of the plan whole and prints every finding, as lines, or as one JSON object
+/// for each drawing. Returns the gravest of the statuses.
+ExitStatus auditDrawings(const Plan& plan);

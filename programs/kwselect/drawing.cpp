@@ -5,10 +5,9 @@
 #include <database/database.h>
 #include <runtime/utf8.h>
 
-#include "exit_status.h"
 #include "interrupt.h"
 
-int readOrTell(const std::string& file, std::unique_ptr<KdDbDatabase>& database, ReadReport& report,
+ExitStatus readOrTell(const std::string& file, std::unique_ptr<KdDbDatabase>& database, ReadReport& report,
                ReadOptions options)
 {
     const InterruptWatch watch;
@@ -25,12 +24,12 @@ Drawing::~Drawing()
     kddbHostApplicationServices()->setWorkingDatabase(nullptr);
 }
 
-int Drawing::open(const std::string& file)
+ExitStatus Drawing::open(const std::string& file)
 {
     ReadOptions options;
     options.found = [this](const ReadFinding& finding) { note(finding); };
     m_file = file;
-    const int status = readOrTell(file, m_database, m_report, options);
+    const ExitStatus status = readOrTell(file, m_database, m_report, options);
     if (status == kSelected)
         kddbHostApplicationServices()->setWorkingDatabase(m_database.get());
     return status;

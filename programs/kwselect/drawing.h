@@ -8,9 +8,11 @@
 
 #include <exchange/drawing_reader.h>
 
+#include "exit_status.h"
+
 /// Reads a drawing so that Ctrl+C cancels. On failure one line on standard error says why.
 /// @return `kSelected`, `kCannotWork` or `kInterrupted`
-int readOrTell(const std::string& file, std::unique_ptr<KdDbDatabase>& database, ReadReport& report,
+ExitStatus readOrTell(const std::string& file, std::unique_ptr<KdDbDatabase>& database, ReadReport& report,
                ReadOptions options);
 
 /// Holds a drawing open as the working drawing.
@@ -23,10 +25,13 @@ class Drawing
     Drawing& operator=(const Drawing&) = delete;
 
     /// Reads the file; see `readOrTell`.
-    int open(const std::string& file);
+    ExitStatus open(const std::string& file);
     /// False if some of what stands in the file could not be read. This may come to light only when
     /// an entity is asked about its properties.
     bool isComplete() const { return m_lost == 0; }
+    /// Entities of kinds that are not known.
+    std::size_t unreadEntities() const { return m_report.unknownEntities; }
+    KdDbDatabase& database() { return *m_database; }
     /// Tells on standard error what could not be read.
     void tellDamage() const;
 

@@ -1,7 +1,5 @@
 #include "dump.h"
 
-#include <iostream>
-
 #include <runtime/utf8.h>
 
 #include "handle_text.h"
@@ -20,7 +18,7 @@ Json propertyJson(const PropertyEntry& property)
     return json;
 }
 
-void dumpEntity(const Module& module, const quick_select::Entity& entity)
+Json entityJson(const Module& module, const quick_select::Entity& entity)
 {
     Json json;
     json["handle"] = handleText(entity.id.handle());
@@ -29,17 +27,26 @@ void dumpEntity(const Module& module, const quick_select::Entity& entity)
     json["properties"] = Json::array();
     for (const PropertyEntry& property : propertiesOf(module, entity.id, false))
         json["properties"].push_back(propertyJson(property));
-    std::cout << json.dump(-1, ' ', false, Json::error_handler_t::replace) << '\n';
+    return json;
 }
 
-void dumpVisited(void* context, const quick_select::Entity& entity)
+struct Context
 {
-    dumpEntity(*static_cast<const Module*>(context), entity);
+    const Module& module;
+    const RowSink& sink;
+};
+
+void dumpEntity(void* untyped, const quick_select::Entity& entity)
+{
+    const auto& context = *static_cast<Context*>(untyped);
+    const Json json = entityJson(context.module, entity);
+    context.sink({{json.dump(-1, ' ', false, Json::error_handler_t::replace), json}});
 }
 
 } // namespace
 
-void dumpEntities(const Module& module)
+void dumpEntities(const Module& module, const RowSink& sink)
 {
-    module.listEntities(nullptr, dumpVisited, const_cast<Module*>(&module));
+    Context context{module, sink};
+    module.listEntities(nullptr, dumpEntity, &context);
 }

@@ -3,6 +3,8 @@
 
 #include <common/module.h>
 
-/// Prints one JSON object a line for each entity of the current space, in the order of the drawing:
+#include "search.h"
+
+/// Hands over one JSON object for each entity of the current space, in the order of the drawing:
 /// handle, class name, display name, and every listed property with key, restype and value.
-void dumpEntities(const Module& module);
+void dumpEntities(const Module& module, const RowSink& sink);

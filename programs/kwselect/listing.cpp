@@ -1,17 +1,11 @@
 #include "listing.h"
 
-#include <iostream>
-#include <map>
-
 #include <runtime/utf8.h>
 
-#include "choice.h"
-#include "exit_status.h"
-#include "value_text.h"
+#include "entity_columns.h"
+#include "value_tally.h"
 
 namespace {
-
-constexpr const char* kAxisSuffixes[] = {"", " X", " Y", " Z"};
 
 std::string operatorList(const Module& module, int restype)
 {
@@ -21,81 +15,79 @@ std::string operatorList(const Module& module, int restype)
     return list;
 }
 
-int listTypes(const Module& module)
+void listTypes(const Catalog& catalog, const RowSink& sink)
 {
-    for (const TypeEntry& type : typesInSpace(module))
-        std::cout << kdToUtf8(type.displayName) << '\t' << type.count << '\t'
-                  << kdToUtf8(type.className) << '\n';
-    return kSelected;
+    for (const TypeEntry& type : catalog.types())
+        sink({textCell(kdToUtf8(type.displayName)), numberCell(type.count),
+              textCell(kdToUtf8(type.className))});
 }
 
-/// Name, category, operators; a point has a line for each coordinate.
-int listProperties(const Module& module, const Choice& choice)
+/// Name, category, operators; a point has a row for each coordinate.
+void listProperties(const Module& module, const std::vector<PropertyEntry>& properties,
+                    const RowSink& sink)
 {
-    for (const PropertyEntry& property : choice.properties) {
+    for (const PropertyEntry& property : properties) {
         const std::size_t colon = property.key.find(L':');
         std::wstring category = colon == std::wstring::npos ? L"" : property.key.substr(0, colon);
         std::erase(category, L'\t');
         const int axes = property.dimensions();
         for (int axis = axes > 0 ? 1 : 0; axis <= axes; ++axis) {
-            std::cout << kdToUtf8(property.listName()) << kAxisSuffixes[axis] << '\t'
-                      << kdToUtf8(category) << '\t' << operatorList(module, property.restype())
-                      << '\n';
+            const ChosenProperty chosen{property, axis};
+            sink({textCell(kdToUtf8(chosen.listName())), textCell(kdToUtf8(category)),
+                  textCell(operatorList(module, property.restype()))});
         }
     }
-    return kSelected;
 }
 
-struct ValueCount
+struct ValueSearch
 {
     const Module& module;
-    const Choice& choice;
-    std::map<std::string, std::size_t> counts;
+    const ResolvedFilter& filter;
+    ValueTally tally;
 };
 
-void countValues(void* context, const quick_select::Entity& entity)
+void takeValue(void* context, const quick_select::Entity& entity)
 {
-    auto& count = *static_cast<ValueCount*>(context);
-    if (count.choice.type && (count.choice.type->displayName != entity.displayName ||
-                              count.choice.type->className != entity.className))
+    auto& search = *static_cast<ValueSearch*>(context);
+    const auto& type = search.filter.type;
+    if (type && (type->displayName != entity.displayName || type->className != entity.className))
         return;
-    const int axis = count.choice.property->axis;
-    for (const PropertyValue& value :
-         propertyOf(count.module, entity.id, count.choice.property->property.key).values) {
-        PropertyValue shown = value;
-        if (axis > 0) {
-            constexpr int kReal = 5001;
-            shown.restype = kReal;
-            shown.number = value.point[axis - 1];
-        }
-        ++count.counts[valueText(shown)];
-    }
+    const ChosenProperty& chosen = *search.filter.property;
+    const PropertyEntry property = propertyOf(search.module, entity.id, chosen.property.key);
+    if (!property.values.empty())
+        search.tally.add(propertyValueCell(property, chosen.axis));
 }
 
 /// The values that the entities have, with the number of entities that have each.
-int listValues(const Module& module, const Choice& choice)
+void listValues(const Module& module, const ResolvedFilter& filter, const RowSink& sink)
 {
-    ValueCount count{module, choice, {}};
-    module.listEntities(nullptr, countValues, &count);
-    for (const auto& [text, number] : count.counts)
-        std::cout << text << '\t' << number << '\n';
-    return kSelected;
+    ValueSearch search{module, filter, {}};
+    module.listEntities(nullptr, takeValue, &search);
+    search.tally.visit(ValueTally::Order::ByValue, sink);
 }
 
 } // namespace
 
-int listCatalog(const Module& module, const Options& options)
+bool listCatalog(Catalog& catalog, const Options& options, const RowSink& sink,
+                 FilterProblem& problem)
 {
-    if (options.list == "types")
-        return listTypes(module);
-    Choice choice;
-    if (!choose(module, options, choice))
-        return kCannotWork;
-    if (options.list == "properties")
-        return listProperties(module, choice);
-    if (!choice.property) {
-        std::cerr << "kwselect: --list values needs --property\n";
-        return kCannotWork;
+    if (options.list == "types") {
+        listTypes(catalog, sink);
+        return true;
     }
-    return listValues(module, choice);
+    Comparison comparison;
+    comparison.namesType = true;
+    comparison.subject.push_back(options.type.empty() ? L"*" : kdFromUtf8(options.type));
+    if (!options.property.empty())
+        comparison.subject.push_back(kdFromUtf8(options.property));
+    ResolvedFilter filter;
+    if (!resolve(comparison, catalog, filter, problem))
+        return false;
+    if (options.list == "values")
+        listValues(catalog.module(), filter, sink);
+    else
+        listProperties(
+            catalog.module(),
+            filter.type ? catalog.propertiesOf(*filter.type) : catalog.commonProperties(), sink);
+    return true;
 }

@@ -1,66 +1,91 @@
+#include <clocale>
 #include <exception>
 #include <iostream>
 
-#include <common/catalog.h>
-#include <common/module.h>
+#include <common/filter_file.h>
+#include <runtime/utf8.h>
 
 #include "audit.h"
-#include "drawing.h"
-#include "dump.h"
-#include "exit_status.h"
-#include "listing.h"
+#include "many_drawings.h"
 #include "options.h"
-#include "select.h"
+#include "output.h"
+#include "plan.h"
 
 namespace {
 
-bool isEmpty(const Module& module, const Options& options)
+int fail(const std::string& problem)
 {
-    if (!typesInSpace(module).empty())
-        return false;
-    std::cerr << "kwselect: " << options.drawing << ": the current space holds no objects\n";
-    return true;
+    std::cerr << "kwselect: " << problem << '\n';
+    return kCannotWork;
 }
 
-int work(const Module& module, const Options& options)
+/// The filters with names need no drawing.
+int listFilters(const Options& options)
 {
-    if (isEmpty(module, options))
-        return kNothingSelected;
-    if (!options.list.empty())
-        return listCatalog(module, options);
-    if (options.dump) {
-        dumpEntities(module);
-        return kSelected;
-    }
-    return selectEntities(module, options);
+    FilterFile filters;
+    std::string problem;
+    const auto file =
+        options.filterFile.empty() ? userFilterFile() : std::filesystem::path(options.filterFile);
+    if (!filters.read(file, problem))
+        return fail(problem);
+    const auto writer =
+        makeRowWriter(options.format.value_or(RowFormat::Tabs), {"Name", "Filter"}, std::cout);
+    for (const FilterFile::Filter& filter : filters.filters())
+        writer->row({textCell(kdToUtf8(filter.name)), textCell(kdToUtf8(filter.text))});
+    writer->finish();
+    return filters.filters().empty() ? kNothingSelected : kSelected;
+}
+
+int searchOne(const Plan& plan, const RowSink& sink)
+{
+    const SearchResult result = searchDrawing(plan, plan.drawings.front(), sink);
+    return result.missing.empty() ? static_cast<int>(result.status)
+                                  : fail(plan.drawings.front() + ": " + result.missing);
+}
+
+int searchMany(const Plan& plan, const RowSink& sink)
+{
+    const ManyResult result = searchDrawings(plan, sink);
+    if (!result.missing.empty())
+        std::cerr << "kwselect: no drawing has what the filter names: " << result.missing << '\n';
+    std::cerr << "kwselect: " << result.read << " drawings read, " << result.failed << " failed\n";
+    return result.status;
+}
+
+/// The status of a run, once all that it printed is written.
+int finished(Output& output, int status)
+{
+    std::string problem;
+    return output.finish(problem) ? status : fail(problem);
+}
+
+int search(const Plan& plan, Output& output)
+{
+    const auto writer = makeRowWriter(plan.format, plan.columns, output.stream());
+    bool hasRows = false;
+    const RowSink sink = [&](const Row& cells) {
+        writer->row(cells);
+        hasRows = true;
+    };
+    const int status = plan.hasSeveralDrawings() ? searchMany(plan, sink) : searchOne(plan, sink);
+    const bool isUnread = status == kCannotWork || status == kInterrupted;
+    if (isUnread && !hasRows)
+        return status; // with no file, rather than an empty one
+    writer->finish();
+    return finished(output, status);
 }
 
 int run(const Options& options)
 {
-    Drawing drawing;
-    if (const int status = drawing.open(options.drawing))
-        return status;
-    Module module;
-    if (!module.load(modulePath())) {
-        std::cerr << "kwselect: " << module.error() << '\n';
-        return kCannotWork;
-    }
-    const int status = work(module, options);
-    if (drawing.isComplete())
-        return status;
-    std::cout.flush();
-    drawing.tellDamage();
-    return status == kCannotWork ? status : kReadInPart;
-}
-
-int runAndFlush(const Options& options)
-{
-    const int status = options.audit ? auditDrawing(options) : run(options);
-    std::cout.flush();
-    if (std::cout)
-        return status;
-    std::cerr << "kwselect: the output can't be written\n";
-    return kCannotWork;
+    if (options.list == "filters")
+        return listFilters(options);
+    Plan plan;
+    Output output;
+    std::string problem;
+    if (!makePlan(options, plan, problem) ||
+        !output.open(options.audit ? std::string() : options.output, options.overwrite, problem))
+        return fail(problem);
+    return options.audit ? finished(output, auditDrawings(plan)) : search(plan, output);
 }
 
 } // namespace
@@ -68,13 +93,13 @@ int runAndFlush(const Options& options)
 int main(int argc, char** argv)
 {
     std::ios::sync_with_stdio(false);
+    std::setlocale(LC_CTYPE, "C.UTF-8"); // how wide characters are, for aligned tables
     Options options;
     if (const auto status = readOptions(argc, argv, options))
         return *status;
     try {
-        return runAndFlush(options);
+        return run(options);
     } catch (const std::exception& problem) { // memory has run out, or the machine is at fault
-        std::cerr << "kwselect: " << problem.what() << '\n';
-        return kCannotWork;
+        return fail(problem.what());
     }
 }

@@ -25,13 +25,6 @@ enum Kind : int
     kBool = 290,
 };
 
-std::string numberText(double number)
-{
-    char buffer[32];
-    const auto end = std::to_chars(buffer, buffer + sizeof buffer, number).ptr;
-    return std::string(buffer, end);
-}
-
 /// In the units of the drawing, as angles are typed.
 std::string angleText(double radians)
 {
@@ -72,6 +65,13 @@ Json pointJson(const PropertyValue& value, int dimensions)
 }
 
 } // namespace
+
+std::string numberText(double number)
+{
+    char buffer[32];
+    const auto end = std::to_chars(buffer, buffer + sizeof buffer, number).ptr;
+    return std::string(buffer, end);
+}
 
 Json valueJson(const PropertyValue& value)
 {
@@ -116,6 +116,8 @@ std::string valueText(const PropertyValue& value)
     const Json json = valueJson(value);
     if (json.is_string())
         return json.get<std::string>();
+    if (json.is_number_float())
+        return numberText(json.get<double>());
     if (!json.is_array())
         return json.dump();
     std::string text;

@@ -10,6 +10,9 @@
 /// drawing, coordinates between commas.
 std::string valueText(const PropertyValue& value);
 
+/// The shortest text that reads back as the same number.
+std::string numberText(double number);
+
 /// Numbers as numbers, angles in radians, points as arrays, colours as they are typed, all else as
 /// text.
 nlohmann::ordered_json valueJson(const PropertyValue& value);

@@ -21,6 +21,7 @@ EXPORTED = {
     "QSelectListEntities",
     "QSelectListProperties",
     "QSelectListOperators",
+    "QSelectTolerance",
     # globals
     "gComboValues",
     "theArxDLL",

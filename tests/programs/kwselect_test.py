@@ -127,7 +127,7 @@ class Selecting(unittest.TestCase):
             path.write_text("0\nSECTION\n2\nENTITIES\n0\nENDSEC\n0\nEOF\n")
             run = Run(path, "--type", "Circle")
         self.assertEqual((run.status, run.lines), (NOTHING, []))
-        self.assertIn("holds no objects", run.errors)
+        self.assertIn("the space holds no objects", run.errors)
 
     def test_texts_match_wildcards(self):
         drawing = DRAWINGS / "all_basic_kinds_r2010.dxf"

@@ -191,6 +191,11 @@ enum class Move : short
     Both = 2
 };
 
+double halfRadian(const KdDbEntity&)
+{
+    return 0.5;
+}
+
 KdGePoint2d flatPoint(const KdDbEntity&)
 {
     return {1.5, 2.5};
@@ -203,7 +208,7 @@ TEST_F(PropertyRows, ReadValuesOfEveryType)
     EXPECT_EQ(read(ResBuf::kInt32, value<given<long, 70000>>), "5010 70000");
     EXPECT_EQ(read(ResBuf::kInt16, value<given<Move, Move::Both>>), "5003 2");
     EXPECT_EQ(read(ResBuf::kBool, value<given<bool, true>>), "290 true");
-    EXPECT_EQ(read(ResBuf::kAngle, value<given<double, 0.5>>), "5004 0.5");
+    EXPECT_EQ(read(ResBuf::kAngle, value<halfRadian>), "5004 0.5");
     EXPECT_EQ(read(ResBuf::kPoint3d, value<&KdDbCircle::center>), "5009 1,2,3");
     EXPECT_EQ(read(ResBuf::kPoint3d, value<&KdDbCircle::normal>), "5009 0,0,1");
     EXPECT_EQ(read(ResBuf::kPoint2d, value<flatPoint>), "5002 1.5,2.5");

@@ -68,6 +68,7 @@ struct Request
     bool exclude;                ///< everything but the matches
     bool append;                 ///< add to the selection in place of replacing it
     bool fromSelection;          ///< over the starting selection, not the whole space
+    const double* tolerance;     ///< for reals; null: by the drawing's linear precision
 };
 
 enum class Outcome : int
@@ -110,6 +111,8 @@ using QSelectListEntitiesFunction = void(long* selectionSet, EntityVisitor visit
 using QSelectListPropertiesFunction = void(KdDbObjectId entity, const wchar_t* onlyKey,
                                            bool withChoices, PropertyVisitor visitor,
                                            void* context);
+/// "QSelectTolerance": within what reals count as equal, by the drawing's linear precision.
+using QSelectToleranceFunction = double();
 /// "QSelectListOperators": the operators that values of a kind offer, in the dialog's order.
 using QSelectListOperatorsFunction = void(int restype, OperatorVisitor visitor, void* context);
 

@@ -1,4 +1,4 @@
-#include "nearest_name.h"
+#include <common/nearest_name.h>
 
 #include <algorithm>
 #include <cstddef>
@@ -6,6 +6,7 @@
 #include <utility>
 
 #include <common/catalog.h>
+#include <runtime/utf8.h>
 
 namespace {
 
@@ -40,4 +41,28 @@ const std::wstring* nearestName(const std::wstring& wanted, const std::vector<st
         }
     }
     return nearest;
+}
+
+std::string notFound(const std::string& what, const std::string& name,
+                     const std::vector<std::wstring>& known, const std::string& noneKnown)
+{
+    std::string sentence = "no " + what + " \"" + name + '"';
+    if (known.empty())
+        return sentence + noneKnown;
+    const std::wstring* nearest = nearestName(kdFromUtf8(name), known);
+    sentence += nearest ? "; did you mean " + inQuotes(*nearest) + '?' : ";";
+    return sentence + " There are: " + commaList(known);
+}
+
+std::string commaList(const std::vector<std::wstring>& names)
+{
+    std::string list;
+    for (const std::wstring& name : names)
+        list += (list.empty() ? "" : ", ") + kdToUtf8(name);
+    return list;
+}
+
+std::string inQuotes(const std::wstring& name)
+{
+    return '"' + kdToUtf8(name) + '"';
 }
