@@ -1,0 +1,91 @@
+#!/usr/bin/env python3
+"""kwselect on many drawings at once."""
+
+import json
+import shutil
+import tempfile
+import unittest
+from pathlib import Path
+
+import support
+from support import CANNOT_WORK, IN_PART, NOTHING, SELECTED, Run
+
+
+class Drawings(unittest.TestCase):
+    def setUp(self):
+        folder = tempfile.TemporaryDirectory()
+        self.addCleanup(folder.cleanup)
+        self.folder = Path(folder.name)
+
+    def copies(self, count):
+        sources = [support.plan(), support.kinds(), support.drawings / "minimal_r12.dxf"]
+        paths = [self.folder / f"{i:03}.dxf" for i in range(count)]
+        for i, path in enumerate(paths):
+            shutil.copy(sources[i % len(sources)], path)
+        return paths
+
+    def test_come_in_their_order_whatever_the_number_of_processes(self):
+        paths = self.copies(200)
+        arguments = ["Circle or Line", "--columns", "File,Handle,Layer,Color", "--format", "csv"]
+        one = Run(*paths, *arguments)
+        two = Run(*paths, *arguments, "--jobs", "2")
+        self.assertEqual(one.status, SELECTED)
+        self.assertEqual(one.output, two.output)
+        files = [line.split(",")[0] for line in one.lines[1:]]
+        self.assertEqual(files, sorted(files))
+        self.assertEqual(len(set(files)), 200)
+        self.assertIn("200 drawings read, 0 failed", two.errors)
+
+    def test_have_their_name_beside_the_handle(self):
+        paths = self.copies(2)
+        lines = Run(*paths, "Circle").lines
+        singles = [f"{path}\t{handle}" for path in paths for handle in Run(path, "Circle").lines]
+        self.assertEqual(lines, singles)
+
+    def test_come_from_patterns_and_lists(self):
+        paths = self.copies(3)
+        expected = Run(*paths, "Circle").lines
+        self.assertEqual(Run(self.folder / "*.dxf", "Circle").lines, expected)
+        drawing_list = self.folder / "list.txt"
+        drawing_list.write_text("".join(f"{path}\n" for path in paths))
+        self.assertEqual(Run(f"@{drawing_list}", "Circle").lines, expected)
+        self.assertEqual(Run("-", "Circle", text=drawing_list.read_text()).lines, expected)
+
+    def test_that_are_bad_leave_the_rest_alone(self):
+        paths = self.copies(3)
+        paths[1].write_text("no drawing\n")
+        run = Run(*paths, "Circle", "--count", "--jobs", "2")
+        self.assertEqual(run.status, CANNOT_WORK)
+        self.assertEqual([line.split("\t")[0] for line in run.lines], [str(paths[0]), str(paths[2])])
+        self.assertIn(paths[1].name, run.errors)
+        self.assertIn("2 drawings read, 1 failed", run.errors)
+
+    def test_that_break_off_make_the_answer_partial(self):
+        paths = self.copies(2)
+        whole = paths[0].read_bytes()
+        paths[0].write_bytes(whole[:whole.index(b"ENTITIES") + 3000])
+        self.assertEqual(Run(*paths, "Line").status, IN_PART)
+
+    def test_without_the_type_are_passed_over(self):
+        paths = self.copies(3)
+        run = Run(*paths, "Block Reference", "--count")
+        self.assertEqual(run.status, SELECTED)
+        self.assertNotIn("no object type", run.errors)
+        nowhere = Run(*paths, "Blok Reference")
+        self.assertEqual((nowhere.status, nowhere.lines), (NOTHING, []))
+        self.assertIn("no drawing has what the filter names", nowhere.errors)
+
+    def test_are_grouped_each_for_itself(self):
+        paths = self.copies(2)
+        rows = json.loads(Run(*paths, "Circle", "--group-by", "Layer", "--format", "json").output)
+        self.assertEqual(list(rows[0]), ["File", "Layer", "Count"])
+        self.assertEqual({row["File"] for row in rows}, {str(path) for path in paths})
+
+    def test_of_which_there_are_none_are_a_mistake(self):
+        run = Run("Circle")
+        self.assertEqual(run.status, CANNOT_WORK)
+        self.assertIn("DRAWING", run.errors)
+
+
+if __name__ == "__main__":
+    support.main()
