@@ -47,6 +47,17 @@ std::optional<std::wstring_view> operatorAt(std::wstring_view text, std::size_t 
     return std::nullopt;
 }
 
+std::wstring inQuotes(std::wstring_view text)
+{
+    std::wstring quoted = L"\"";
+    for (const wchar_t c : text) {
+        if (c == L'"')
+            quoted += c;
+        quoted += c;
+    }
+    return quoted + L'"';
+}
+
 class Reader
 {
   public:
@@ -280,30 +291,33 @@ std::string markedPlace(std::wstring_view text, std::size_t place)
     return "  " + kdToUtf8(line) + "\n  " + std::string(std::min(place, line.size()), ' ') + '^';
 }
 
-std::wstring quotedIfNeeded(std::wstring_view text)
+std::wstring writtenName(std::wstring_view text)
 {
-    const auto read = readExpression(std::wstring(L"x = ").append(text));
+    const auto read = readExpression(text);
     const auto* expression = std::get_if<Expression>(&read);
     const bool isPlain = expression && expression->kind == Kind::Comparison &&
-                         expression->comparison.value == text &&
-                         text.find_first_of(L":=<>*@()") == std::wstring_view::npos;
-    if (isPlain)
-        return std::wstring(text);
-    std::wstring quoted = L"\"";
-    for (const wchar_t c : text) {
-        if (c == L'"')
-            quoted += c;
-        quoted += c;
-    }
-    return quoted + L'"';
+                         expression->comparison.subject == std::vector{std::wstring(text)} &&
+                         text.find_first_of(L"*@=<>\"") == std::wstring_view::npos;
+    return isPlain ? std::wstring(text) : inQuotes(text);
+}
+
+std::wstring writtenValue(std::wstring_view text)
+{
+    const auto read = readExpression(L"x = " + std::wstring(text));
+    const auto* expression = std::get_if<Expression>(&read);
+    const bool isPlain =
+        expression && expression->kind == Kind::Comparison && expression->comparison.value == text;
+    return isPlain ? std::wstring(text) : inQuotes(text);
 }
 
 std::wstring textOf(const Comparison& comparison)
 {
     std::wstring text;
-    for (const std::wstring& piece : comparison.subject)
-        text += (text.empty() ? L"" : L": ") + (piece == L"*" ? piece : quotedIfNeeded(piece));
+    for (const std::wstring& piece : comparison.subject) {
+        const bool isAllTypes = text.empty() && piece == L"*" && comparison.subject.size() > 1;
+        text += (text.empty() ? L"" : L": ") + (isAllTypes ? piece : writtenName(piece));
+    }
     if (!comparison.op.empty())
-        text += L' ' + comparison.op + L' ' + quotedIfNeeded(comparison.value);
+        text += L' ' + comparison.op + L' ' + writtenValue(comparison.value);
     return text;
 }

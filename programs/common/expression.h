@@ -63,5 +63,6 @@ std::wstring textOf(const Comparison& comparison);
 /// The text with a mark under the place, as two lines, for messages.
 std::string markedPlace(std::wstring_view text, std::size_t place);
 
-/// `text` as it can stand in an expression: between quotes where it has to be.
-std::wstring quotedIfNeeded(std::wstring_view text);
+/// A name or a value as it can stand in an expression: between quotes where it has to be.
+std::wstring writtenName(std::wstring_view text);
+std::wstring writtenValue(std::wstring_view text);

@@ -56,6 +56,19 @@ TEST_F(Request, SelectsWhatThePropertyComparesWithAndTellsTheCount)
     EXPECT_THAT(printed, ElementsAre(L"\n1 item(s) selected."));
 }
 
+TEST_F(Request, ComparesWithinTheToleranceThatItGives)
+{
+    add(model());
+    auto request = property(L"\tGeneral:Linetype scale", ResBuf::kLinetypeScale, L"=", L"1.25");
+    EXPECT_EQ(ask(request).matches, 0); // the scale is 1
+    const double tolerance = 0.5;
+    request.tolerance = &tolerance;
+    EXPECT_EQ(ask(request).matches, 1);
+    request.tolerance = nullptr;
+    EXPECT_EQ(ask(request).matches, 0);
+    EXPECT_EQ(QSelectTolerance(), 1.0e-4);
+}
+
 TEST_F(Request, KnowsTheNamesOfTheDrawingInAnyCase)
 {
     const KdDbObjectId pipe = addOn(L"Pipes")->objectId();

@@ -74,6 +74,7 @@ constexpr Accepted kAccepted[] = {
     {"wordsAtTheBeginningOfWords", L"Order = andante", "[Order] = <andante>"},
     {"aFilterByName", L"@pipes and not @small", "(and @pipes (not @small))"},
     {"aFilterByNameInBrackets", L"(@pipes)", "@pipes"},
+    {"aNameThatIsAWord", L"\"not\" = 1", "[not] = <1>"},
     {"lettersBeyondAscii", L"Straße: Länge > 5", "[Straße|Länge] > <5>"},
 };
 
@@ -188,12 +189,21 @@ INSTANTIATE_TEST_SUITE_P(Text, WrittenExpression, testing::ValuesIn(comparisons(
 
 TEST(WrittenName, StandsBetweenQuotesOnlyWhereItHasTo)
 {
-    EXPECT_EQ(quotedIfNeeded(L"Block Reference"), L"Block Reference");
-    EXPECT_EQ(quotedIfNeeded(L"A and B"), L"\"A and B\"");
-    EXPECT_EQ(quotedIfNeeded(L"2\" pipe"), L"2\" pipe");
-    EXPECT_EQ(quotedIfNeeded(L"\"x\""), L"\"\"\"x\"\"\"");
-    EXPECT_EQ(quotedIfNeeded(L" x"), L"\" x\"");
-    EXPECT_EQ(quotedIfNeeded(L""), L"\"\"");
+    EXPECT_EQ(writtenName(L"Block Reference"), L"Block Reference");
+    EXPECT_EQ(writtenName(L"A and B"), L"\"A and B\"");
+    EXPECT_EQ(writtenName(L"not"), L"\"not\"");
+    EXPECT_EQ(writtenName(L"A:B"), L"\"A:B\"");
+    EXPECT_EQ(writtenName(L"*"), L"\"*\"");
+}
+
+TEST(WrittenValue, StandsBetweenQuotesOnlyWhereItHasTo)
+{
+    EXPECT_EQ(writtenValue(L"*TODO*"), L"*TODO*");
+    EXPECT_EQ(writtenValue(L"2\" pipe"), L"2\" pipe");
+    EXPECT_EQ(writtenValue(L"\"x\""), L"\"\"\"x\"\"\"");
+    EXPECT_EQ(writtenValue(L" x"), L"\" x\"");
+    EXPECT_EQ(writtenValue(L"A or B"), L"\"A or B\"");
+    EXPECT_EQ(writtenValue(L""), L"\"\"");
 }
 
 } // namespace

@@ -188,6 +188,23 @@ TEST_F(ComparePropAtPrecision4, UsesASmallToleranceWithoutADrawing)
     EXPECT_FALSE(compare(number(ResBuf::kReal, 2.00000002), L"=", filter, ResBuf::kReal));
 }
 
+TEST_F(ComparePropAtPrecision4, TakesAGivenToleranceForTheLengthOfItsScope)
+{
+    const Chain value = number(ResBuf::kReal, 2.4);
+    const Chain filter = number(ResBuf::kReal, 2.0);
+    {
+        const ScopedTolerance wide(0.5);
+        EXPECT_TRUE(compare(value, L"=", filter, ResBuf::kReal));
+        {
+            const ScopedTolerance none(0.0);
+            EXPECT_FALSE(compare(value, L"=", filter, ResBuf::kReal));
+            EXPECT_EQ(CompareDynamicEpsilon(1.0), 0.0);
+        }
+        EXPECT_TRUE(compare(value, L"=", filter, ResBuf::kReal));
+    }
+    EXPECT_FALSE(compare(value, L"=", filter, ResBuf::kReal));
+}
+
 TEST_F(ComparePropAtPrecision4, FindsANanEqualToEverythingButZero)
 {
     const Chain nan = number(ResBuf::kReal, 0.0);
