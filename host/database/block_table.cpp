@@ -22,6 +22,16 @@ KdErrorStatus KdDbBlockTableRecord::appendEntity(KdDbEntity* entity)
     return eOk;
 }
 
+bool KdDbBlockTableRecord::hasAttributeDefinitions() const
+{
+    static const KdRxClass* const definitions = kdrxFindKdRxClass(L"AcDbAttributeDefinition");
+    std::size_t& place = m_attributeDefinitionSearch;
+    while (place < m_entities.size() &&
+           (m_entities[place].isErased() || !m_entities[place].isKindOf(definitions)))
+        ++place;
+    return place < m_entities.size();
+}
+
 KdErrorStatus KdDbBlockTableRecord::newIterator(KdDbBlockTableRecordIterator*& iterator,
                                                 bool atBeginning, bool skipErased) const
 {

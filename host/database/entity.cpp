@@ -1,5 +1,6 @@
 #include <database/entity.h>
 
+#include <database/class_ids.h>
 #include <database/database.h>
 
 KD_RX_DEFINE_ABSTRACT(KdDbEntity, KdDbObject, L"AcDbEntity")
@@ -120,6 +121,14 @@ KdErrorStatus KdDbEntity::getBoundingPoints(KdArray<KdGePoint3d>&) const
 KdErrorStatus KdDbEntity::getOutline(KdArray<KdGePoint3d>&) const
 {
     return eNotApplicable;
+}
+
+KdErrorStatus KdDbEntity::getClassID(CLSID* classId) const
+{
+    if (!classId)
+        return eInvalidInput;
+    *classId = CLSID_KdadEntity;
+    return eOk;
 }
 
 KdDbObjectId KdDbEntity::blockId() const

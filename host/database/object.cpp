@@ -140,6 +140,11 @@ bool KdDbObject::isAnnotative() const
     return false;
 }
 
+KdErrorStatus KdDbObject::getClassID(CLSID* classId) const
+{
+    return classId ? eNotApplicable : eInvalidInput;
+}
+
 KdErrorStatus kddbOpenKdDbObject(KdDbObject*& object, KdDbObjectId id, int mode, bool openErased)
 {
     KdDbObject* wanted = id.m_object;

@@ -1,5 +1,7 @@
 #include <entities/block_elements.h>
 
+#include <algorithm>
+
 // These entities have no names of their own in DXF: a file that holds them tells theirs in its list
 // of classes.
 #define KW_BLOCK_ELEMENT_GROUP(Class, Parent)                                                      \
@@ -53,3 +55,56 @@ KW_BLOCK_ELEMENT(BlockPolarGripEntity, BlockGripEntity)
 KW_BLOCK_ELEMENT(BlockRotationGripEntity, BlockGripEntity)
 KW_BLOCK_ELEMENT(BlockVisibilityGripEntity, BlockGripEntity)
 KW_BLOCK_ELEMENT(BlockXYGripEntity, BlockGripEntity)
+
+namespace {
+
+struct EntityRow
+{
+    KdRxClass* (*element)();
+    KdRxClass* (*entity)();
+};
+
+// clang-format off
+constexpr EntityRow kEntities[] = {
+    {KdDbBlockBasepointParameter::desc,           KdDbBlockBasepointParameterEntity::desc},
+    {KdDbBlockPointParameter::desc,               KdDbBlockPointParameterEntity::desc},
+    {KdDbBlockLookupParameter::desc,              KdDbBlockLookupParameterEntity::desc},
+    {KdDbBlockVisibilityParameter::desc,          KdDbBlockVisibilityParameterEntity::desc},
+    {KdDbBlockAlignmentParameter::desc,           KdDbBlockAlignmentParameterEntity::desc},
+    {KdDbBlockFlipParameter::desc,                KdDbBlockFlipParameterEntity::desc},
+    {KdDbBlockLinearParameter::desc,              KdDbBlockLinearParameterEntity::desc},
+    {KdDbBlockPolarParameter::desc,               KdDbBlockPolarParameterEntity::desc},
+    {KdDbBlockRotationParameter::desc,            KdDbBlockRotationParameterEntity::desc},
+    {KdDbBlockXYParameter::desc,                  KdDbBlockXYParameterEntity::desc},
+    {KdDbBlockAngularConstraintParameter::desc,   KdDbBlockAngularConstraintParameterEntity::desc},
+    {KdDbBlockDiametricConstraintParameter::desc, KdDbBlockDiametricConstraintParameterEntity::desc},
+    {KdDbBlockLinearConstraintParameter::desc,    KdDbBlockLinearConstraintParameterEntity::desc},
+    {KdDbBlockRadialConstraintParameter::desc,    KdDbBlockRadialConstraintParameterEntity::desc},
+    {KdDbBlockArrayAction::desc,                  KdDbBlockArrayActionEntity::desc},
+    {KdDbBlockFlipAction::desc,                   KdDbBlockFlipActionEntity::desc},
+    {KdDbBlockLookupAction::desc,                 KdDbBlockLookupActionEntity::desc},
+    {KdDbBlockMoveAction::desc,                   KdDbBlockMoveActionEntity::desc},
+    {KdDbBlockPolarStretchAction::desc,           KdDbBlockPolarStretchActionEntity::desc},
+    {KdDbBlockStretchAction::desc,                KdDbBlockStretchActionEntity::desc},
+    {KdDbBlockRotateAction::desc,                 KdDbBlockRotateActionEntity::desc},
+    {KdDbBlockScaleAction::desc,                  KdDbBlockScaleActionEntity::desc},
+    {KdDbBlockAlignmentGrip::desc,                KdDbBlockAlignmentGripEntity::desc},
+    {KdDbBlockFlipGrip::desc,                     KdDbBlockFlipGripEntity::desc},
+    {KdDbBlockLinearGrip::desc,                   KdDbBlockLinearGripEntity::desc},
+    {KdDbBlockLookupGrip::desc,                   KdDbBlockLookupGripEntity::desc},
+    {KdDbBlockPolarGrip::desc,                    KdDbBlockPolarGripEntity::desc},
+    {KdDbBlockRotationGrip::desc,                 KdDbBlockRotationGripEntity::desc},
+    {KdDbBlockVisibilityGrip::desc,               KdDbBlockVisibilityGripEntity::desc},
+    {KdDbBlockXYGrip::desc,                       KdDbBlockXYGripEntity::desc},
+};
+// clang-format on
+
+} // namespace
+
+KdRxClass* kddbBlockElementEntityClass(const KdRxClass* elementClass)
+{
+    const auto* const row = std::ranges::find_if(kEntities, [=](const EntityRow& each) {
+        return elementClass && elementClass->isDerivedFrom(each.element());
+    });
+    return row == std::end(kEntities) ? nullptr : row->entity();
+}

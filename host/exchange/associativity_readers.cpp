@@ -2,6 +2,7 @@
 #include <database/associativity.h>
 
 #include "member_readers.h"
+#include "value_parameter_reader.h"
 
 namespace dxf {
 namespace {
@@ -31,12 +32,15 @@ void takeAction(RecordReader& reader, AssocActionMembers& action, int& handles)
 template <class Members, class TakeMore>
 void readActionAnd(RecordReader& reader, Members& action, TakeMore takeMore)
 {
+    ValueParameterReader values(action.values);
     int handles = 0;
     while (reader.next()) {
-        if (reader.isIn(kActionPart))
-            takeAction(reader, action, handles);
-        else
+        if (!reader.isIn(kActionPart)) {
             takeMore();
+        } else {
+            takeAction(reader, action, handles);
+            values.take(reader);
+        }
     }
 }
 

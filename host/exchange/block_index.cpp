@@ -7,7 +7,9 @@ namespace {
 
 constexpr int kAnonymous = 1;
 constexpr int kExternalReference = 4;
+constexpr int kOverlay = 8;
 constexpr int kDependent = 16;
+constexpr int kResolved = 32;
 
 /// The model and the sheets: only these may hold what stands in the ENTITIES section.
 bool isSpace(const KdDbBlockTableRecord& record)
@@ -125,6 +127,8 @@ void BlockIndex::begin(RecordCursor& cursor)
     members.path = head.path;
     members.anonymous = (head.flags & kAnonymous) != 0;
     members.externalReference = (head.flags & kExternalReference) != 0;
+    members.overlay = (head.flags & kOverlay) != 0;
+    members.referenceResolved = (head.flags & kResolved) != 0;
     members.dependent = (head.flags & kDependent) != 0;
 }
 

@@ -17,8 +17,6 @@ class ExtendedDataReader
     void read(ResbufChain& chain);
 
   private:
-    resbuf* readRecord();
-
     RecordReader& m_reader;
 };
 

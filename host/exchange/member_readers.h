@@ -49,5 +49,8 @@ std::span<const MemberReaderRow> sectionReaders();
 std::span<const MemberReaderRow> solid3dReaders();
 std::span<const MemberReaderRow> pointCloudReaders();
 std::span<const MemberReaderRow> geoPositionReaders();
+std::span<const MemberReaderRow> xrecordReaders();
+std::span<const MemberReaderRow> blockElementReaders();
+std::span<const MemberReaderRow> actionBodyReaders();
 
 } // namespace dxf

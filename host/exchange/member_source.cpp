@@ -16,13 +16,13 @@ void readNothingMore(RecordReader& reader, ObjectMembers&)
 
 /// The rows of all families.
 constexpr std::span<const MemberReaderRow> (*kFamilies[])() = {
-    associativityReaders, curveReaders,       dimensionReaders, dimensionStyleReaders,
-    faceReaders,          geoPositionReaders, hatchReaders,     imageReaders,
-    insertReaders,        leaderReaders,      lightReaders,     meshReaders,
-    mleaderReaders,       mlineReaders,       mtextReaders,     objectReaders,
-    pointCloudReaders,    polylineReaders,    proxyReaders,     sectionReaders,
-    solid3dReaders,       splineReaders,      tableReaders,     textReaders,
-    viewportReaders,
+    actionBodyReaders, associativityReaders,  blockElementReaders, curveReaders,
+    dimensionReaders,  dimensionStyleReaders, faceReaders,         geoPositionReaders,
+    hatchReaders,      imageReaders,          insertReaders,       leaderReaders,
+    lightReaders,      meshReaders,           mleaderReaders,      mlineReaders,
+    mtextReaders,      objectReaders,         pointCloudReaders,   polylineReaders,
+    proxyReaders,      sectionReaders,        solid3dReaders,      splineReaders,
+    tableReaders,      textReaders,           viewportReaders,     xrecordReaders,
 };
 
 /// All rows by class.

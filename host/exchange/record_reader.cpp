@@ -73,6 +73,8 @@ bool RecordReader::advance()
 bool RecordReader::next()
 {
     while (advance()) {
+        if (m_subclass == kFreeSubclass)
+            return true;
         switch (m_group.code) {
         case 100:
             m_subclass = trimmed(m_group.text);

@@ -100,6 +100,9 @@ class RecordReader
     bool m_isEmbedded = false;
 };
 
+/// The part of a record whose groups are free: none of them has the meaning that it has elsewhere.
+constexpr std::string_view kFreeSubclass = "AcDbXrecord";
+
 /// The word of a colour by its index; values out of range count as by layer.
 std::uint32_t colorWordOfIndex(int index);
 /// The word of a true colour 0x00RRGGBB.

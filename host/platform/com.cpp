@@ -2,12 +2,24 @@
 
 #include "entity_object.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <cwchar>
+#include <iterator>
 
 namespace {
 
 thread_local unsigned int initializations = 0;
+
+/// The classes that stand for entities; one kind of object serves them all.
+constexpr CLSID kEntityClasses[] = {CLSID_KdadEntity, CLSID_KdadAssocArrayRect,
+                                    CLSID_KdadAssocArrayPolar, CLSID_KdadAssocArrayPath};
+
+bool isEntityClass(const CLSID& classId)
+{
+    return std::find(std::begin(kEntityClasses), std::end(kEntityClasses), classId) !=
+           std::end(kEntityClasses);
+}
 
 HRESULT createInstance(const CLSID& classId, IUnknown* outer, unsigned int context, const IID& id,
                        void** object)
@@ -16,7 +28,7 @@ HRESULT createInstance(const CLSID& classId, IUnknown* outer, unsigned int conte
         return CO_E_NOTINITIALIZED;
     if (outer)
         return CLASS_E_NOAGGREGATION;
-    if (classId != CLSID_KdadEntity || !(context & CLSCTX_INPROC_SERVER))
+    if (!isEntityClass(classId) || !(context & CLSCTX_INPROC_SERVER))
         return REGDB_E_CLASSNOTREG;
     auto* created = new EntityObject;
     const HRESULT result = created->QueryInterface(id, object);

@@ -1,5 +1,7 @@
 #include "display_names.h"
 
+#include <database/class_ids.h>
+#include <entities/center_object.h>
 #include <platform/resources.h>
 #include <runtime/kd_string.h>
 
@@ -180,14 +182,61 @@ unsigned int textId(const KdRxClass& rxClass)
     return entry->second;
 }
 
-} // namespace
+constexpr unsigned int kRectangularArray = 60044;
+constexpr unsigned int kPolarArray = 60045;
+constexpr unsigned int kPathArray = 60046;
+constexpr unsigned int kCenterMark = 60047;
+constexpr unsigned int kCenterLine = 60048;
 
-BSTR typeDisplayName(const KdRxClass& rxClass)
+/// The number of the name that a reference has apart from its class, or 0.
+unsigned int referenceTextId(const KdDbBlockReference& reference)
+{
+    CLSID classId{};
+    reference.getClassID(&classId);
+    if (classId == CLSID_KdadAssocArrayRect)
+        return kRectangularArray;
+    if (classId == CLSID_KdadAssocArrayPolar)
+        return kPolarArray;
+    if (classId == CLSID_KdadAssocArrayPath)
+        return kPathArray;
+    switch (KdDbSmartCenterObjectWrapper::getCenterType(reference.objectId())) {
+    case KdDbSmartCenterObjectWrapper::kCenterMark:
+        return kCenterMark;
+    case KdDbSmartCenterObjectWrapper::kCenterLine:
+        return kCenterLine;
+    default:
+        return 0;
+    }
+}
+
+unsigned int referenceTextId(KdDbObjectId id)
+{
+    if (id.objectClass() != KdDbBlockReference::desc())
+        return 0;
+    const OpenForRead<KdDbBlockReference> reference(id);
+    // Whatever follows something else knows of it by a reactor; most references follow nothing.
+    return reference && !reference->reactors().empty() ? referenceTextId(*reference) : 0;
+}
+
+BSTR textOf(unsigned int id, const wchar_t* otherwise)
 {
     constexpr int kLongestName = 256;
     wchar_t text[kLongestName];
     const HINSTANCE library = LoadResourceDll(L"KrxOPMRes.dll");
-    if (LoadStringW(library, textId(rxClass), text, kLongestName) > 0)
-        return SysAllocString(text);
-    return SysAllocString(*rxClass.dxfName() ? rxClass.dxfName() : rxClass.name());
+    const bool isThere = LoadStringW(library, id, text, kLongestName) > 0;
+    return SysAllocString(isThere ? text : otherwise);
+}
+
+} // namespace
+
+BSTR typeDisplayName(const KdRxClass& rxClass)
+{
+    return textOf(textId(rxClass), *rxClass.dxfName() ? rxClass.dxfName() : rxClass.name());
+}
+
+BSTR typeDisplayName(KdDbObjectId id)
+{
+    const KdRxClass& rxClass = *id.objectClass();
+    const unsigned int ownText = referenceTextId(id);
+    return ownText != 0 ? textOf(ownText, rxClass.dxfName()) : typeDisplayName(rxClass);
 }

@@ -37,7 +37,7 @@ HRESULT EntityObject::GetDisplayName(int dispatchId, BSTR* name)
         return DISP_E_MEMBERNOTFOUND;
     if (m_id.isNull() || m_id.isErased())
         return E_FAIL;
-    *name = typeDisplayName(*m_id.objectClass());
+    *name = typeDisplayName(m_id);
     return *name ? S_OK : E_FAIL;
 }
 
@@ -51,10 +51,7 @@ HRESULT EntityObject::SetObjectId(const KdDbObjectId& id, KdDbObjectId, const wc
 
 KdErrorStatus kddbGetClassID(const KdDbObject& object, CLSID& classId)
 {
-    if (!object.isKindOf(KdDbEntity::desc()))
-        return eNotApplicable;
-    classId = CLSID_KdadEntity;
-    return eOk;
+    return object.getClassID(&classId);
 }
 
 HRESULT KwComUtil::KwAuGetIUnknownOfObject(IUnknown** unknown, const KdDbObjectId& id)

@@ -11,15 +11,15 @@ namespace {
 /// True if `equal` finds `other` to be the text. The library's own text serves as it lies; only a
 /// missing one takes the loud way.
 template <class Equal>
-bool isText(const ResourceText& text, const KdString& other, Equal equal)
+bool isText(const ResourceText& text, std::wstring_view other, Equal equal)
 {
     const wchar_t* stored = nullptr;
     const int length = LoadStringW(AfxGetResourceHandle(), static_cast<unsigned>(text.id),
                                    reinterpret_cast<wchar_t*>(&stored), 0);
     if (length > 0)
-        return equal(other.view(), std::wstring_view(stored, static_cast<std::size_t>(length)));
+        return equal(other, std::wstring_view(stored, static_cast<std::size_t>(length)));
     __ResourceString substitute(text.id, text.defaultText, nullptr);
-    return equal(other.view(), std::wstring_view(static_cast<const wchar_t*>(substitute)));
+    return equal(other, std::wstring_view(static_cast<const wchar_t*>(substitute)));
 }
 
 } // namespace
@@ -29,7 +29,7 @@ KdString ResourceText::text() const
     return KdString(static_cast<const wchar_t*>(__ResourceString(id, defaultText, nullptr)));
 }
 
-bool ResourceText::matches(const KdString& other) const
+bool ResourceText::matches(std::wstring_view other) const
 {
     return isText(*this, other, std::equal_to<>());
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <span>
+#include <string_view>
 
 #include <database/entity.h>
 #include <runtime/kd_array.h>
@@ -16,7 +17,7 @@ struct ResourceText
 
     KdString text() const;
     /// True if `other` is this text, letter by letter. Allocates nothing.
-    bool matches(const KdString& other) const;
+    bool matches(std::wstring_view other) const;
     /// The same, whatever the case of the letters.
     bool matchesNoCase(const KdString& other) const;
 };

@@ -46,7 +46,7 @@ _kwselect() {
     -o | --operator) COMPREPLY=($(compgen -W "= '<>' '>' '<' '*' all" -- "$current")) ;;
     --list) COMPREPLY=($(compgen -W "types properties values filters" -- "$current")) ;;
     --format) COMPREPLY=($(compgen -W "handles table tsv csv json jsonl" -- "$current")) ;;
-    --space) COMPREPLY=($(compgen -W "model paper: all" -- "$current")) ;;
+    --space) COMPREPLY=($(compgen -W "model paper: block: all" -- "$current")) ;;
     --output | --write | --filters) COMPREPLY=($(compgen -f -- "$current")) ;;
     -f | --filter | --then | --append | -v | --value | --tolerance | --why | -j | --jobs) COMPREPLY=() ;;
     *)

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include <common/nearest_name.h>
+#include <common/open_keys.h>
 #include <runtime/utf8.h>
 
 namespace {
@@ -84,8 +85,10 @@ bool takeOperator(const Comparison& comparison, const Module& module, ResolvedFi
 const std::vector<PropertyEntry>& Catalog::propertiesOf(const TypeEntry& type)
 {
     const auto [entry, isNew] = m_properties.try_emplace(type.example);
-    if (isNew)
+    if (isNew) {
         entry->second = ::propertiesOf(m_module, type.example, true);
+        appendOpenKeys(m_module, type, entry->second);
+    }
     return entry->second;
 }
 

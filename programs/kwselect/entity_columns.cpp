@@ -79,9 +79,19 @@ Cell EntityColumns::propertyCell(const quick_select::Entity& entity, std::size_t
     }
     const auto& chosen = found->second[column];
     if (!chosen)
-        return {};
+        return openKeyCell(entity, column);
     m_found[column] = true;
     return propertyValueCell(propertyOf(m_module, entity.id, chosen->property.key), chosen->axis);
+}
+
+/// By the whole key: attributes and the properties of dynamic blocks are listed nowhere.
+Cell EntityColumns::openKeyCell(const quick_select::Entity& entity, std::size_t column)
+{
+    const PropertyEntry property = propertyOf(m_module, entity.id, kdFromUtf8(m_columns[column]));
+    if (property.values.empty())
+        return {};
+    m_found[column] = true;
+    return propertyValueCell(property, 0);
 }
 
 std::vector<std::string> defaultColumns(bool withFile, bool withSpace)

@@ -26,6 +26,7 @@ class EntityColumns
   private:
     Cell cell(const quick_select::Entity& entity, std::size_t column);
     Cell propertyCell(const quick_select::Entity& entity, std::size_t column);
+    Cell openKeyCell(const quick_select::Entity& entity, std::size_t column);
 
     const Module& m_module;
     std::string m_file;

@@ -6,6 +6,7 @@
 #include <common/catalog.h>
 #include <common/nearest_name.h>
 #include <database/database.h>
+#include <editor/current_space.h>
 #include <editor/system_variables.h>
 #include <runtime/utf8.h>
 
@@ -36,7 +37,26 @@ std::vector<std::wstring> sheetNames(KdDbDatabase& drawing)
 
 SearchSpace sheet(const std::wstring& name)
 {
-    return {name, "paper:" + kdToUtf8(name)};
+    return {name, {}, "paper:" + kdToUtf8(name)};
+}
+
+bool findBlock(KdDbDatabase& drawing, const std::string& name, std::vector<SearchSpace>& spaces,
+               std::string& problem)
+{
+    std::vector<std::wstring> names;
+    for (const KdDbObjectId id : drawing.table<KdDbBlockTable>().recordIds()) {
+        const OpenForRead<KdDbBlockTableRecord> block(id);
+        if (!block || block->isLayout())
+            continue;
+        names.push_back(block->name().kwszPtr());
+        if (comparable(names.back()) == comparable(kdFromUtf8(name))) {
+            spaces = {{{}, id, "block:" + kdToUtf8(names.back())}};
+            return true;
+        }
+    }
+    std::erase_if(names, [](const std::wstring& other) { return other.starts_with(L'*'); });
+    problem = notFound("block", name, names, "; the drawing has none");
+    return false;
 }
 
 bool findSheet(KdDbDatabase& drawing, const std::string& name, std::vector<SearchSpace>& spaces,
@@ -59,14 +79,18 @@ bool findSpaces(KdDbDatabase& drawing, const std::string& option, std::vector<Se
                 std::string& problem)
 {
     constexpr std::string_view kPaper = "paper:";
+    constexpr std::string_view kBlock = "block:";
     spaces.clear();
     if (option.starts_with(kPaper))
         return findSheet(drawing, option.substr(kPaper.size()), spaces, problem);
+    if (option.starts_with(kBlock))
+        return findBlock(drawing, option.substr(kBlock.size()), spaces, problem);
     if (option != "model" && option != "all") {
-        problem = "no space \"" + option + "\"; there are model, paper:NAME and all";
+        problem =
+            "no space \"" + option + "\"; there are model, paper:NAME, block:NAME and all";
         return false;
     }
-    spaces.push_back({kModel, "model"});
+    spaces.push_back({kModel, {}, "model"});
     if (option == "all") {
         for (const std::wstring& name : sheetNames(drawing))
             spaces.push_back(sheet(name));
@@ -76,6 +100,10 @@ bool findSpaces(KdDbDatabase& drawing, const std::string& option, std::vector<Se
 
 void enterSpace(KdDbDatabase& drawing, const SearchSpace& space)
 {
+    if (!space.block.isNull()) {
+        kdedOpenBlock(space.block);
+        return;
+    }
     kddbHostApplicationServices()->layoutManager()->setCurrentLayout(space.layout.c_str(),
                                                                      &drawing);
     if (space.layout != kModel) {

@@ -4,12 +4,13 @@
 #include <string>
 #include <vector>
 
-class KdDbDatabase;
+#include <database/object_id.h>
 
 struct SearchSpace
 {
-    std::wstring layout; ///< the layout's name; "Model" for the model
-    std::string label;   ///< "model" or "paper:NAME", as the option spells it
+    std::wstring layout; ///< the layout's name; "Model" for the model; empty for a block
+    KdDbObjectId block;
+    std::string label; ///< "model", "paper:NAME" or "block:NAME", as the option spells it
 };
 
 /// The spaces that the option names. False: the drawing lacks it, and `problem` is a sentence.

@@ -8,11 +8,21 @@
 #include <database/object.h>
 #include <runtime/kd_array.h>
 
+/// A quantity that a person may set, such as the number of rows of an array.
+struct KW_EXPORT AssocValueParameter
+{
+    KdString name;
+    KdString expression;
+    int unit = 0;                        ///< 0 none, 1 distance, 2 angle
+    std::vector<KdDbEvalVariant> values; ///< one as a rule
+};
+
 struct KW_EXPORT AssocActionMembers : ObjectMembers
 {
     KdDbObjectId network; ///< that the action belongs to
     KdDbObjectId body;    ///< what the action does, where that is an object of its own
     std::vector<KdDbObjectId> dependencies;
+    std::vector<AssocValueParameter> values; ///< in old drawings those of the body
 };
 
 /// Something to be done anew when what it depends on changes. Owns its dependencies.
@@ -24,6 +34,7 @@ class KW_EXPORT KdDbAssocAction : public KdDbObject
     KdDbObjectId owningNetwork() const { return data().network; }
     KdDbObjectId actionBody() const { return data().body; }
     const std::vector<KdDbObjectId>& dependencies() const { return data().dependencies; }
+    const std::vector<AssocValueParameter>& values() const { return data().values; }
 };
 
 struct KW_EXPORT AssocNetworkMembers : AssocActionMembers

@@ -15,6 +15,8 @@ struct KW_EXPORT BlockMembers : SymbolTableRecordMembers
     KdDbObjectId layout;
     bool anonymous = false;
     bool externalReference = false;
+    bool overlay = false;           ///< an external reference that is not passed on
+    bool referenceResolved = false; ///< the file behind an external reference was found
     std::int16_t insertUnits = 0;
     bool explodable = true;
     bool scalesUniformly = false;
@@ -48,10 +50,23 @@ class KW_EXPORT KdDbBlockTableRecord : public KdDbSymbolTableRecord
     bool isLayout() const { return !data().layout.isNull(); }
     bool isAnonymous() const { return data().anonymous; }
     bool isFromExternalReference() const { return data().externalReference; }
+    bool isFromOverlayReference() const { return data().externalReference && data().overlay; }
+    bool isResolved() const { return data().referenceResolved; }
+    /// The file behind an external reference, as the drawing names it.
+    const KdString& pathName() const { return data().path; }
+    /// 0 none, 1 inches, 2 feet, 4 millimetres, 6 metres and so on; what the drawing says, checked
+    /// by nobody.
     int blockInsertUnits() const { return data().insertUnits; }
+    bool explodable() const { return data().explodable; }
+    /// True if references keep the proportions of the block.
+    bool scalesUniformly() const { return data().scalesUniformly; }
+    /// True if an attribute definition is among the entities. Constant time when repeated.
+    bool hasAttributeDefinitions() const;
 
   private:
     std::vector<KdDbObjectId> m_entities;
+    /// No attribute definition stands before this place.
+    mutable std::size_t m_attributeDefinitionSearch = 0;
 };
 KD_DB_SYMBOL_TABLE(KdDbBlockTable, KdDbBlockTableRecord)
 

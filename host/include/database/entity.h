@@ -91,6 +91,9 @@ class KW_EXPORT KdDbEntity : public KdDbObject
     /// twice, appended to `points`. Here, and for kinds without such an edge: `eNotApplicable`.
     virtual KdErrorStatus getOutline(KdArray<KdGePoint3d>& points) const;
 
+    /// `CLSID_KdadEntity` for every kind that has none of its own.
+    KdErrorStatus getClassID(CLSID* classId) const override;
+
     /// Takes over a vertex, attribute or sequence end that follows this entity in its drawing.
     /// Entities without parts of their own ignore it.
     virtual void appendPart(KdDbObjectId /*part*/) {}

@@ -1,52 +1,45 @@
-/// Values of parameters and variables, of which the kind is known only at run time.
+/// Values whose kind is known only at run time: what parameters of blocks and of associative
+/// objects hold.
 #pragma once
 
-#include <cstdint>
-#include <utility>
 #include <variant>
 
 #include <geometry/point.h>
 #include <runtime/kd_string.h>
+#include <runtime/resbuf.h>
 #include <runtime/status.h>
 
-/// Nothing, a real, an integer, a text, or a point. Lengths are in drawing units.
-class KdDbEvalVariant
+/// A value with the restype under which it is kept; `RTNONE` while it has none.
+class KW_EXPORT KdDbEvalVariant
 {
   public:
     KdDbEvalVariant() = default;
-    KdDbEvalVariant(double value) : m_value(value) {}
-    KdDbEvalVariant(std::int32_t value) : m_value(value) {}
-    KdDbEvalVariant(KdString value) : m_value(std::move(value)) {}
-    KdDbEvalVariant(const KdGePoint3d& value) : m_value(value) {}
+    KdDbEvalVariant(double value, short restype = RTREAL) : m_value(value), m_restype(restype) {}
+    KdDbEvalVariant(int value, short restype = RTLONG) : m_value(value), m_restype(restype) {}
+    KdDbEvalVariant(const KdString& value, short restype = RTSTR)
+        : m_value(value), m_restype(restype)
+    {
+    }
+    KdDbEvalVariant(const KdGePoint3d& value, short restype = RT3DPOINT)
+        : m_value(value), m_restype(restype)
+    {
+    }
 
+    short restype() const { return m_restype; }
     bool isEmpty() const { return m_value.index() == 0; }
 
-    /// The value in the kind of the argument; `eNotApplicable`, the argument untouched, if it is of
-    /// another kind. Integers serve as reals, too.
-    KdErrorStatus getValue(double& value) const
-    {
-        if (const auto* integer = std::get_if<std::int32_t>(&m_value)) {
-            value = *integer;
-            return eOk;
-        }
-        return copyTo(value);
-    }
-    KdErrorStatus getValue(std::int32_t& value) const { return copyTo(value); }
-    KdErrorStatus getValue(KdString& value) const { return copyTo(value); }
-    KdErrorStatus getValue(KdGePoint3d& value) const { return copyTo(value); }
+    // Each gives the value; `eNotApplicable`, with `value` untouched, if it is of another kind.
+
+    /// A number of either kind.
+    KdErrorStatus getValue(double& value) const;
+    /// The same, a real cut towards zero and held within the range of the integer.
+    KdErrorStatus getValue(int& value) const;
+    KdErrorStatus getValue(KdString& value) const;
+    KdErrorStatus getValue(KdGePoint3d& value) const;
 
     bool operator==(const KdDbEvalVariant&) const = default;
 
   private:
-    template <class T>
-    KdErrorStatus copyTo(T& value) const
-    {
-        const T* held = std::get_if<T>(&m_value);
-        if (!held)
-            return eNotApplicable;
-        value = *held;
-        return eOk;
-    }
-
-    std::variant<std::monostate, double, std::int32_t, KdString, KdGePoint3d> m_value;
+    std::variant<std::monostate, int, double, KdString, KdGePoint3d> m_value;
+    short m_restype = RTNONE;
 };

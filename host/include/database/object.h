@@ -7,6 +7,7 @@
 #include <vector>
 
 #include <database/object_id.h>
+#include <runtime/guid.h>
 #include <runtime/kd_string.h>
 #include <runtime/rx_class.h>
 
@@ -86,6 +87,10 @@ class KW_EXPORT KdDbObject : public KdRxObject
     std::span<const KdDbObjectId> reactors() const;
     /// True if the annotation scale decides the object's size. Here: what its extended data says.
     virtual bool isAnnotative() const;
+    /// The class id under which an object model knows the object; see database/class_ids.h. Here,
+    /// and for all that no object model shows: `eNotApplicable`, `classId` untouched. A null
+    /// `classId` gives `eInvalidInput`.
+    virtual KdErrorStatus getClassID(CLSID* classId) const;
 
   protected:
     KdDbObject() = default;

@@ -2,13 +2,20 @@
 #pragma once
 
 #include <entities/angular_dimensions.h>
+#include <entities/assoc_array.h>
+#include <entities/assoc_body.h>
 #include <entities/attribute.h>
 #include <entities/block_elements.h>
 #include <entities/block_reference.h>
+#include <entities/center_object.h>
 #include <entities/circle.h>
 #include <entities/curve.h>
 #include <entities/declare.h>
 #include <entities/dimension.h>
+#include <entities/dyn_block_actions.h>
+#include <entities/dyn_block_elements.h>
+#include <entities/dyn_block_parameters.h>
+#include <entities/dyn_block_reference.h>
 #include <entities/ellipse.h>
 #include <entities/extrusion.h>
 #include <entities/face.h>

@@ -3,8 +3,36 @@
 #pragma once
 
 #include <entities/declare.h>
+#include <entities/dyn_block_actions.h>
+#include <entities/dyn_block_parameters.h>
 
-KD_DB_PLAIN_ENTITY(KdDbBlockElementEntity, KdDbEntity)
+struct KW_EXPORT BlockElementEntityMembers : EntityMembers
+{
+    KdDbObjectId element;
+};
+
+/// Shows one element of the graph of a block. All that there is to know is the element's.
+class KW_EXPORT KdDbBlockElementEntity : public KdDbEntity
+{
+    KD_RX_DECLARE(KdDbBlockElementEntity)
+    KD_DB_MEMBERS(BlockElementEntityMembers)
+
+    /// A `KdDbBlockElement`; the null id for an entity that has lost its element.
+    KdDbObjectId blockElementId() const { return data().element; }
+
+    /// Applies `read` to the element, or to one with nothing set if there is none of class
+    /// `Element`. Takes a function, since the element is open for its time alone.
+    template <class Element, class Read>
+    auto readElement(Read read) const
+    {
+        static const Element blank;
+        const OpenForRead<Element> element(blockElementId());
+        return read(element ? *element : blank);
+    }
+};
+
+/// The class of the entities that show elements of a class; null for what no entity shows.
+KW_EXPORT KdRxClass* kddbBlockElementEntityClass(const KdRxClass* elementClass);
 
 // Parameters.
 KD_DB_PLAIN_ENTITY(KdDbBlockParameterEntity, KdDbBlockElementEntity)

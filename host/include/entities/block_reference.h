@@ -31,6 +31,10 @@ class KW_EXPORT KdDbBlockReference : public KdDbOwnerOfParts<KdDbEntity>
     /// In WCS, of length 1.
     KdGeVector3d normal() const { return data().extrusion.normal(); }
     std::unique_ptr<KdDbObjectIterator> attributeIterator() const { return iteratorOverParts(); }
+    /// From the block's frame to the world: base point, scale, rotation, object frame, position.
+    KdGeMatrix3d blockTransform() const;
+    /// One of `CLSID_KdadAssocArrayRect`, `...Polar` and `...Path` for an associative array.
+    KdErrorStatus getClassID(CLSID* classId) const override;
 };
 
 struct KW_EXPORT MInsertBlockMembers : BlockReferenceMembers
@@ -51,6 +55,20 @@ class KW_EXPORT KdDbMInsertBlock : public KdDbBlockReference
     std::uint16_t rows() const { return data().rows; }
     double columnSpacing() const { return data().columnSpacing; }
     double rowSpacing() const { return data().rowSpacing; }
+};
+
+struct KW_EXPORT BlockRepresentationMembers : ObjectMembers
+{
+    KdDbObjectId block;
+};
+
+/// Stands in the extension dictionary of a reference to an anonymous copy and names the original.
+class KW_EXPORT KdDbBlockRepresentationData : public KdDbObject
+{
+    KD_RX_DECLARE(KdDbBlockRepresentationData)
+    KD_DB_MEMBERS(BlockRepresentationMembers)
+
+    KdDbObjectId blockId() const { return data().block; }
 };
 
 /// The block that an anonymous copy of a dynamic block was made from. `id` is that of the copy or

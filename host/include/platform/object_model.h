@@ -1,6 +1,7 @@
 /// The object model of entities, as far as it tells the display name of their type.
 #pragma once
 
+#include <database/class_ids.h>
 #include <database/entity.h>
 
 #include <platform/com.h>
@@ -40,10 +41,6 @@ constexpr IID IID_IOPMPropertyExtension = {
     0x5C3A1E70, 0x8D42, 0x4F6B, {0x9B, 0x17, 0x2E, 0x60, 0xA4, 0xC9, 0x35, 0xD8}};
 constexpr IID IID_IKdadBaseObject = {
     0x71E90B24, 0x3A5F, 0x4C08, {0x86, 0xD3, 0xF4, 0x1B, 0x7C, 0x52, 0x0E, 0x99}};
-
-/// The class that wraps any entity.
-constexpr CLSID CLSID_KdadEntity = {
-    0xEF920111, 0x5A25, 0x11E7, {0xB7, 0x2E, 0xBC, 0x5F, 0xF4, 0x2A, 0xC8, 0x39}};
 
 /// The class id of an object in the object model; `eNotApplicable` for what is no entity, with
 /// `classId` untouched.

@@ -1,0 +1,3 @@
+#include <database/xrecord.h>
+
+KD_RX_DEFINE(KdDbXrecord, KdDbObject, L"AcDbXrecord", L"XRECORD")
