@@ -5,7 +5,7 @@ set -euo pipefail
 root="$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)"
 "$root/scripts/setup" --tests
 "$root/scripts/build" build-benchmark -DCMAKE_BUILD_TYPE=Release -DKW_BUILD_TESTS=OFF \
-  -DKW_BUILD_BENCHMARKS=ON -- quick_select_benchmark benchmark_drawings >&2
+  -DKW_BUILD_BENCHMARKS=ON -- quick_select_benchmark dialog_benchmark benchmark_drawings >&2
 
 results="$root/build-benchmark/benchmarks/results.json"
 "$root/build-benchmark/bin/quick_select_benchmark" \

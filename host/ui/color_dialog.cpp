@@ -44,7 +44,9 @@ KdUiColorDialog::KdUiColorDialog(const KdCmColor& initial, QWidget* parent)
     const int index = initial.colorIndex();
     m_palette->setIndex(index >= 1 && index <= 255 ? index : 7);
 
-    m_pages->addTab(pageWith(m_palette), resourceText(79131, "&Numbered Colors"));
+    const QString numbered = resourceText(79131, "&Numbered Colors");
+    m_palette->setAccessibleName(QString(numbered).remove('&'));
+    m_pages->addTab(pageWith(m_palette), numbered);
     m_pages->addTab(pageWith(m_mixer), resourceText(79132, "&True Colors"));
     m_pages->setCurrentIndex(initial.colorMethod() == KdCmColor::kByColor ? 1 : 0);
 

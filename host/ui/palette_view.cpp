@@ -34,7 +34,6 @@ KdUiPaletteView::KdUiPaletteView(QWidget* parent) : QWidget(parent)
     setObjectName("palette");
     setFocusPolicy(Qt::StrongFocus);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-    setAccessibleName(tr("Numbered colors"));
 }
 
 QSize KdUiPaletteView::sizeHint() const

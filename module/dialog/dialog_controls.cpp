@@ -95,7 +95,8 @@ void CQSelectDialog::placeSelectButton()
 void CQSelectDialog::makeValueCombos()
 {
     const CWnd* edit = GetDlgItem(kValueEdit);
-    if (!edit)
+    if (!edit ||
+        m_valueCombo.widget()) // they last as long as the dialog, however often it is shown
         return;
     tagRECT rect;
     edit->GetWindowRect(&rect);
