@@ -65,7 +65,7 @@ struct DrawingSource
     KdDbObjectId dimensionStyle(const Group& name)
     {
         return dimensionStyles.find(database, decoder, findings, DrawingFinding::UndefinedStyle,
-                                    name);
+                                    name, reading);
     }
     /// The null id if there is no such block, which is noted.
     KdDbObjectId block(const Group& name);
