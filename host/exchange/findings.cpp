@@ -94,7 +94,11 @@ std::uint64_t LineNumbers::lineAt(std::uint64_t offset)
         const std::uint64_t end = m_lines.size() * kBlock;
         m_lines.push_back(m_lines.back() + lineEndsIn(end - kBlock, end));
     }
-    return m_lines[block] + lineEndsIn(block * kBlock, offset);
+    const bool goesOn = m_lastOffset <= offset && m_lastOffset >= block * kBlock;
+    const std::uint64_t from = goesOn ? m_lastOffset : block * kBlock;
+    m_lastLine = (goesOn ? m_lastLine : m_lines[block]) + lineEndsIn(from, offset);
+    m_lastOffset = offset;
+    return m_lastLine;
 }
 
 void Findings::countLinesIn(std::string_view bytes)

@@ -27,6 +27,8 @@ class LineNumbers
 
     std::string_view m_bytes;
     std::vector<std::uint64_t> m_lines{1}; ///< in which each block begins
+    std::uint64_t m_lastOffset = 0;        ///< what was asked for last: the next one is often near
+    std::uint64_t m_lastLine = 1;
 };
 
 class Findings
