@@ -247,7 +247,7 @@ void readViewport(RecordReader& reader, ViewportTableMembers& view)
             view.twist = reader.angle();
             break;
         case 70:
-            readFlags(reader, view);
+            readTableFlags(reader, view);
             break;
         case 110:
             view.ucsOrigin = reader.point();
