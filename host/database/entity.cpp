@@ -82,6 +82,7 @@ void KdDbEntity::setPropertiesFrom(const KdDbEntity& other)
     mine.transparency = theirs.transparency;
     mine.lineweight = theirs.lineweight;
     mine.plotStyleKind = theirs.plotStyleKind;
+    mine.shadows = theirs.shadows;
     mine.invisible = theirs.invisible;
     m_layer = other.m_layer;
 }

@@ -138,6 +138,13 @@ Curve leaderCurve(const KdDbLeader& leader, bool)
     return chainOf(pointsOf(leader, &KdDbEntity::getGripPoints));
 }
 
+/// Between the points that are measured.
+template <class Dimension>
+Curve measuredCurve(const Dimension& dimension, bool unbounded)
+{
+    return straight(dimension.xLine1Point(), dimension.xLine2Point(), unbounded);
+}
+
 Curve imageCurve(const KdDbRasterImage& image, bool)
 {
     return ringOf(pointsOf(image, &KdDbEntity::getOutline));
@@ -203,6 +210,8 @@ constexpr Conversion kConversions[] = {
     row<KdDbRay, rayCurve>(),
     row<KdDbXline, xlineCurve>(),
     row<KdDbLeader, leaderCurve>(),
+    row<KdDbAlignedDimension, measuredCurve<KdDbAlignedDimension>>(),
+    row<KdDbRotatedDimension, measuredCurve<KdDbRotatedDimension>>(),
     row<KdDbRasterImage, imageCurve>(),
     row<KdDbWipeout, imageCurve>(),
     row<KdDbSolid, bowTieCurve>(),

@@ -375,6 +375,27 @@ TEST(CurveOfCorners, IsNullIfTheEntityGivesNone)
     EXPECT_EQ(curveOf(solid), nullptr);
 }
 
+template <class Dimension>
+class CurveOfADimension : public testing::Test
+{
+};
+using LinearDimensions = testing::Types<KdDbAlignedDimension, KdDbRotatedDimension>;
+TYPED_TEST_SUITE(CurveOfADimension, LinearDimensions);
+
+TYPED_TEST(CurveOfADimension, RunsBetweenThePointsThatItMeasures)
+{
+    TypeParam dimension;
+    dimension.edit().xLine1Point = {1, 2, 3};
+    dimension.edit().xLine2Point = {4, 6, 3};
+    const auto bounded = curveOf(dimension);
+    ASSERT_TRUE(as<KdGeLineSeg3d>(bounded));
+    expectNear(startOf(*bounded), {1, 2, 3});
+    expectNear(endOf(*bounded), {4, 6, 3});
+    const auto unbounded = curveOf(dimension, true);
+    ASSERT_TRUE(as<KdGeLine3d>(unbounded));
+    expectNear(unbounded->evalPoint(-5), {-2, -2, 3});
+}
+
 TEST(CurveOfAText, IsTheRectangleOfItsExtents)
 {
     class Boxed : public KdDbText

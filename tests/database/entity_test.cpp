@@ -173,6 +173,7 @@ TEST_F(EntityInModel, TakesOverThePropertiesOfAnother)
         members.lineweight = 35;
         members.transparency = 0x02000080;
         members.plotStyleKind = EntityMembers::PlotStyle::ByBlock;
+        members.shadows = EntityMembers::Shadows::Ignore;
         members.invisible = true;
     });
     KdDbArc arc;
@@ -184,6 +185,7 @@ TEST_F(EntityInModel, TakesOverThePropertiesOfAnother)
     EXPECT_EQ(arc.lineWeight(), 35);
     EXPECT_EQ(arc.transparency().alpha(), 128);
     EXPECT_EQ(arc.plotStyleName(), L"ByBlock");
+    EXPECT_FALSE(arc.castShadows());
     EXPECT_TRUE(arc.isInvisible());
 }
 

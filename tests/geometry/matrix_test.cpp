@@ -119,4 +119,22 @@ TEST(Matrix, ProductAppliesTheRightOneFirst)
     EXPECT_EQ((turn * move) * point, turn * (move * point));
 }
 
+TEST(Matrix, HasAnInverseThatLeadsBack)
+{
+    const KdGeMatrix3d map =
+        KdGeMatrix3d::fromFrame({10.0, 20.0, 30.0}, {0.0, 2.0, 0.0}, {-1.0, 0.0, 1.0}, {1, 1, 4});
+    const KdGePoint3d back = map.inverse() * (map * KdGePoint3d{1.0, 2.0, 3.0});
+    EXPECT_NEAR(back.distanceTo({1.0, 2.0, 3.0}), 0.0, 1e-14);
+    EXPECT_EQ((map * KdGePoint3d::kOrigin), (KdGePoint3d{10.0, 20.0, 30.0}));
+    EXPECT_NEAR((map.inverse() * KdGePoint3d{10.0, 20.0, 30.0}).distanceTo({}), 0.0, 1e-14);
+}
+
+TEST(Matrix, ThatFlattensSpaceHasTheIdentityAsItsInverse)
+{
+    const KdGeMatrix3d flat = KdGeMatrix3d::fromFrame(KdGePoint3d::kOrigin, KdGeVector3d::kXAxis,
+                                                      KdGeVector3d::kYAxis, {});
+    const KdGePoint3d point{1.0, 2.0, 3.0};
+    EXPECT_EQ(flat.inverse() * point, point);
+}
+
 } // namespace

@@ -67,8 +67,8 @@ class KW_EXPORT KdDbEntity : public KdDbObject
     /// Whether a rendered view shows the entity's shadow on others, and those of others on it.
     bool castShadows() const;
     bool receiveShadows() const;
-    /// Takes over layer, colour, linetype and its scale, lineweight, plot style, transparency and
-    /// visibility. The entity must be open for write or not yet in a database.
+    /// Takes over layer, colour, linetype and its scale, lineweight, plot style, transparency,
+    /// shadows and visibility. The entity must be open for write or not yet in a database.
     void setPropertiesFrom(const KdDbEntity& other);
 
     /// The block table record that the entity is part of; for vertices and attributes, that of the
