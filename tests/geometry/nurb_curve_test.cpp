@@ -183,6 +183,21 @@ TEST(FitCurve, LeavesAlongItsTangents)
     EXPECT_NEAR(curve->evalPoint(2).x, 2.0, kNear);
 }
 
+TEST(FitCurve, HasTheControlPointsThatAnIndependentLibraryFinds)
+{
+    const Points points{{0, 0, 0}, {3, 4, 0}, {6, 0, 5}, {7, 1, 1}};
+    const Points expected{{0, 0, 0},
+                          {0, 1.6666666666666667, 0},
+                          {4.0596563714719345, 6.970310600056484, -2.2606676376004153},
+                          {6.685813255658629, -2.0912420211399096, 9.436052800706818},
+                          {5.585786437626905, 1, 1},
+                          {7, 1, 1}};
+    const KdGeFitCurve curve = kdgeInterpolate({points, {0, 1, 0}, {1, 0, 0}});
+    ASSERT_EQ(curve.controlPoints.size(), expected.size());
+    for (std::size_t i = 0; i < expected.size(); ++i)
+        EXPECT_THAT(curve.controlPoints[i], IsNear(expected[i])) << i;
+}
+
 TEST(FitCurve, ClosesSmoothly)
 {
     Points points;
