@@ -47,7 +47,7 @@ const KdDbDimValue& KdDbDimStyleTableRecord::standardTextStyle() const
 resbuf* KdDbDimStyleTableRecord::xData(const wchar_t* application) const
 {
     const resbuf* end = nullptr;
-    const resbuf* first = extendedData(application, end);
+    const resbuf* first = application ? extendedData(application, end) : nullptr;
     if (!first)
         return nullptr;
     const auto known = std::ranges::find_if(m_xData, [application](const ResbufChain& list) {
