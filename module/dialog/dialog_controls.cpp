@@ -75,7 +75,7 @@ bool CQSelectDialog::OnInitDialog()
 /// the font is large.
 void CQSelectDialog::fitValueEdit()
 {
-    constexpr int kMargins = 5;
+    constexpr int kMargins = 3;
     if (QWidget* edit = getWidgetsFromOrignal(kValueEdit, 0))
         edit->setFixedHeight(std::max(kUsualHeight, edit->fontMetrics().height() + kMargins));
 }
