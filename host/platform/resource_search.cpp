@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cstdlib>
 
-#include <dlfcn.h>
+#include <platform/code_file.h>
 
 namespace {
 
@@ -43,13 +43,6 @@ void appendFoldersNear(const fs::path& binary, std::vector<fs::path>& folders)
     folders.push_back(folder.parent_path() / "lib" / kSubfolder);
 }
 
-fs::path thisLibrary()
-{
-    Dl_info info = {};
-    const bool found = dladdr(reinterpret_cast<const void*>(&resourceFolders), &info) != 0;
-    return found && info.dli_fname ? info.dli_fname : "";
-}
-
 } // namespace
 
 std::vector<std::string> resourceLanguages(std::string_view language)
@@ -80,7 +73,7 @@ std::vector<fs::path> resourceFolders()
 {
     std::vector<fs::path> folders;
     appendEnvironmentFolders(folders);
-    appendFoldersNear(thisLibrary(), folders);
+    appendFoldersNear(kdFileOfCode(reinterpret_cast<const void*>(&resourceFolders)), folders);
     appendFoldersNear("/proc/self/exe", folders);
     folders.emplace_back(KW_RESOURCE_INSTALL_FOLDER);
     return folders;

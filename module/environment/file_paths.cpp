@@ -3,10 +3,10 @@
 #include <algorithm>
 #include <filesystem>
 
-#include <dlfcn.h>
-#include <fnmatch.h>
-#include <unistd.h>
+#include <QFileInfo>
+#include <QRegularExpression>
 
+#include <platform/code_file.h>
 #include <runtime/utf8.h>
 
 namespace {
@@ -71,7 +71,7 @@ WIN32_FIND_DATAW dataOf(const fs::path& path)
         data.nFileSizeLow = static_cast<std::uint32_t>(size);
     }
     const std::string name = path.filename();
-    if (access(path.c_str(), W_OK) != 0)
+    if (!QFileInfo(QString::fromStdString(path)).isWritable())
         data.dwFileAttributes |= FILE_ATTRIBUTE_READONLY;
     if (name.starts_with('.'))
         data.dwFileAttributes |= FILE_ATTRIBUTE_HIDDEN;
@@ -80,6 +80,13 @@ WIN32_FIND_DATAW dataOf(const fs::path& path)
     const std::wstring wide = kdFromUtf8(name);
     std::copy_n(wide.data(), std::min(wide.size(), std::size(data.cFileName) - 1), data.cFileName);
     return data;
+}
+
+bool matches(const std::string& pattern, const std::string& name)
+{
+    const auto form =
+        QRegularExpression::wildcardToRegularExpression(QString::fromStdString(pattern));
+    return QRegularExpression(form).match(QString::fromStdString(name)).hasMatch();
 }
 
 /// By name, so that the outcome does not depend on the file system.
@@ -91,7 +98,7 @@ std::vector<fs::path> matchingFiles(const fs::path& folder, const std::string& p
          entry.increment(error)) {
         std::error_code ignored;
         const std::string name = entry->path().filename();
-        if (entry->is_regular_file(ignored) && fnmatch(pattern.c_str(), name.c_str(), 0) == 0)
+        if (entry->is_regular_file(ignored) && matches(pattern, name))
             files.push_back(entry->path());
     }
     std::ranges::sort(files);
@@ -124,13 +131,8 @@ Text FileString::GetExtension() const
 
 FileString FileString::ModuleFile()
 {
-    Dl_info info{};
     const void* const ours = reinterpret_cast<const void*>(&FileString::ModuleFile);
-    if (dladdr(ours, &info) == 0 || !info.dli_fname)
-        return {};
-    std::error_code error;
-    const fs::path path = fs::canonical(info.dli_fname, error);
-    return FileString(kdFromUtf8(error ? std::string(info.dli_fname) : path.string()));
+    return FileString(kdFromUtf8(kdFileOfCode(ours).string()));
 }
 
 FileString FileString::ModulePath()
@@ -170,7 +172,8 @@ bool ValidateLocation(Text path)
 {
     std::error_code error;
     const fs::path folder = systemPath(path);
-    return fs::is_directory(folder, error) && access(folder.c_str(), R_OK | X_OK) == 0;
+    const QFileInfo info(QString::fromStdString(folder));
+    return fs::is_directory(folder, error) && info.isReadable() && info.isExecutable();
 }
 
 void addPathToSrchpath(Text& searchPath, const Text& path)

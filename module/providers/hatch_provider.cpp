@@ -1,10 +1,9 @@
 #include <providers/hatch_provider.h>
 
+#include <cwchar>
 #include <limits>
 #include <memory>
 #include <set>
-
-#include <wchar.h>
 
 #include <database/database.h>
 #include <runtime/number_text.h>
@@ -82,7 +81,7 @@ bool isCentered(const KdDbHatch& hatch)
 KdString gradientName(const KdDbHatch& hatch)
 {
     for (const GradientRow& row : kGradients) {
-        if (wcscasecmp(row.name, hatch.gradientName().kwszPtr()) == 0)
+        if (::wcscasecmp(row.name, hatch.gradientName().kwszPtr()) == 0)
             return row.text.text();
     }
     return {};

@@ -7,8 +7,8 @@
 
 #include "interrupt.h"
 
-ExitStatus readOrTell(const std::string& file, std::unique_ptr<KdDbDatabase>& database, ReadReport& report,
-               ReadOptions options)
+ExitStatus readOrTell(const std::string& file, std::unique_ptr<KdDbDatabase>& database,
+                      ReadReport& report, ReadOptions options)
 {
     const InterruptWatch watch;
     options.progress = [](double) { return !InterruptWatch::wasInterrupted(); };

@@ -12,8 +12,8 @@
 
 /// Reads a drawing so that Ctrl+C cancels. On failure one line on standard error says why.
 /// @return `kSelected`, `kCannotWork` or `kInterrupted`
-ExitStatus readOrTell(const std::string& file, std::unique_ptr<KdDbDatabase>& database, ReadReport& report,
-               ReadOptions options);
+ExitStatus readOrTell(const std::string& file, std::unique_ptr<KdDbDatabase>& database,
+                      ReadReport& report, ReadOptions options);
 
 /// Holds a drawing open as the working drawing.
 class Drawing

@@ -86,8 +86,7 @@ bool findSpaces(KdDbDatabase& drawing, const std::string& option, std::vector<Se
     if (option.starts_with(kBlock))
         return findBlock(drawing, option.substr(kBlock.size()), spaces, problem);
     if (option != "model" && option != "all") {
-        problem =
-            "no space \"" + option + "\"; there are model, paper:NAME, block:NAME and all";
+        problem = "no space \"" + option + "\"; there are model, paper:NAME, block:NAME and all";
         return false;
     }
     spaces.push_back({kModel, {}, "model"});

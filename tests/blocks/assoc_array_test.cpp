@@ -5,6 +5,7 @@
 #include "support.h"
 
 using namespace blocks_test;
+using namespace provider_test;
 using testing::ElementsAre;
 
 namespace {

@@ -2,6 +2,8 @@
 
 namespace blocks_test {
 
+using namespace provider_test;
+
 namespace {
 
 constexpr std::size_t kGeneralKeys = 8;

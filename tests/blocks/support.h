@@ -10,8 +10,6 @@
 
 namespace blocks_test {
 
-using namespace provider_test;
-
 /// A key with its flag, as a provider lists it.
 struct Listed
 {
@@ -41,7 +39,7 @@ void expectAnswers(KdDbEntityPE& provider, const KdDbEntity* entity,
 void expectRefusals(KdDbEntityPE& provider, const KdDbEntity* entity);
 
 /// Drawings with blocks, references and the objects around them.
-class BlocksTest : public ProviderTest
+class BlocksTest : public provider_test::ProviderTest
 {
   protected:
     KdDbBlockTableRecord* addBlock(const wchar_t* name);

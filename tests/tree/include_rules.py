@@ -53,7 +53,7 @@ THIRD_PARTY = {
     "module": (),
     "programs": ("CLI/", "nlohmann/"),
 }
-KERNEL_OF_GEOMETRY = re.compile(r"^[A-Z][A-Za-z0-9_]*\.hxx$")
+KERNEL_OF_GEOMETRY = re.compile(r"^([A-Z][A-Za-z0-9_]*|math(_[A-Z][A-Za-z0-9_]*)?)\.hxx$")
 
 INCLUDE = re.compile(r'^\s*#\s*include\s*(?:"([^"]+)"|<([^>]+)>)')
 PRAGMA_ONCE = re.compile(r"^\s*#\s*pragma\s+once\b", re.MULTILINE)

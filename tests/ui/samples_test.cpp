@@ -3,6 +3,7 @@
 #include "samples.h"
 
 #include <QImage>
+#include <QPalette>
 #include <QPainter>
 
 #include <set>
