@@ -12,9 +12,11 @@
 #include <dimensions/dimension_providers.h>
 #include <dimensions/leader_providers.h>
 #include <providers/curve_providers.h>
+#include <providers/hatch_provider.h>
 #include <providers/other_providers.h>
 #include <providers/plain_providers.h>
 #include <providers/text_providers.h>
+#include <providers/viewport_provider.h>
 
 #include "support.h"
 
