@@ -159,6 +159,8 @@ class PlanMaker
             return fail("--list values needs --property");
         if (!m_options.write.empty() && m_plan.hasSeveralDrawings())
             return fail("--write takes the selection of one drawing");
+        if (m_options.overwrite && m_options.write.empty() && m_options.output.empty())
+            return fail("--overwrite goes with --write or --output");
         if (m_options.audit && m_options.format && *m_options.format != RowFormat::Json)
             return fail("--audit prints lines, or JSON with --format json");
         return true;

@@ -296,6 +296,14 @@ TEST_F(FilterValues, OfColorsAreRefusedWhereTheTextIsNone)
     }
 }
 
+TEST_F(FilterValues, OfNoTransparencyIsRefusedAndStillARecord)
+{
+    const Read read(ResBuf::kTransparencyText, L"");
+    EXPECT_EQ(read.outcome(), FilterText::Unreadable);
+    ASSERT_TRUE(read.hasRecord()); // the dialog goes on with it
+    EXPECT_EQ(read.record().getString(), L"");
+}
+
 class EmptyFilterText : public FilterValues, public testing::WithParamInterface<int>
 {
 };
@@ -308,8 +316,8 @@ TEST_P(EmptyFilterText, IsNothingToCompareWith)
 }
 
 INSTANTIATE_TEST_SUITE_P(EachKind, EmptyFilterText,
-                         testing::Values(5001, 48, 5004, 5002, 5009, 280, 5003, 5010, 290, 441, 380,
-                                         440, 370, 6, 5011));
+                         testing::Values(5001, 48, 5004, 5002, 5009, 280, 5003, 5010, 290, 380, 440,
+                                         370, 6, 5011));
 
 TEST_F(FilterValues, OfKindsWithoutValuesAreRefused)
 {
