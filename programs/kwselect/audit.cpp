@@ -1,8 +1,6 @@
 #include "audit.h"
 
-#include <algorithm>
 #include <iostream>
-#include <iterator>
 #include <memory>
 
 #include <database/database.h>
@@ -127,8 +125,7 @@ ExitStatus auditDrawings(const Plan& plan)
     ExitStatus worst = kSelected;
     for (const std::string& file : plan.drawings) {
         const ExitStatus status = auditDrawing(file, plan);
-        worst = *std::find_if(std::begin(kByGravity), std::end(kByGravity),
-                              [&](ExitStatus one) { return one == worst || one == status; });
+        worst = graver(kByGravity, worst, status);
         if (status == kInterrupted)
             break;
     }

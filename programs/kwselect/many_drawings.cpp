@@ -223,15 +223,9 @@ class Children
         ++(result.status == kCannotWork ? m_result.failed : m_result.read);
         if (!result.missing.empty() && m_missingIn++ == 0)
             m_result.missing = result.missing;
-        m_result.status = graver(m_result.status, result.status);
-    }
-
-    /// Unreadable before read in part, before something selected, before nothing selected.
-    static ExitStatus graver(ExitStatus a, ExitStatus b)
-    {
-        constexpr ExitStatus kByGravity[] = {kCannotWork, kReadInPart, kSelected, kNothingSelected};
-        return *std::find_if(std::begin(kByGravity), std::end(kByGravity),
-                             [&](ExitStatus status) { return status == a || status == b; });
+        constexpr ExitStatus kByGravity[] = {kInterrupted, kCannotWork, kReadInPart, kSelected,
+                                             kNothingSelected};
+        m_result.status = graver(kByGravity, m_result.status, result.status);
     }
 
     const Plan& m_plan;

@@ -89,8 +89,9 @@ class CommandLine
         m_op = m_app.add_option("-o,--operator", m_options.op,
                                 "One of =, <>, >, <, * and all (the default without a value)");
         m_value = m_app.add_option("-v,--value", m_options.value, "Value to compare with");
-        m_exclude = m_app.add_flag("--exclude", "Select everything that does not match the filter "
-                                                "before this option");
+        m_exclude = m_app.add_flag("--exclude", m_excludeUses,
+                                   "Select everything that does not match the filter "
+                                   "before this option");
         m_then = perUse(m_app.add_option("--then", m_thenTexts,
                                          "A further filter, over what is selected so far"));
         m_append = perUse(m_app.add_option("--append", m_appendTexts,
@@ -203,6 +204,7 @@ class CommandLine
     std::vector<std::string> m_thenTexts;
     std::vector<std::string> m_appendTexts;
     std::string m_format;
+    int m_excludeUses = 0;
 };
 
 /// The option that an unknown one may have been meant to be, as a question.
