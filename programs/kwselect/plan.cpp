@@ -157,6 +157,10 @@ class PlanMaker
     {
         if (m_options.list == "values" && m_options.property.empty())
             return fail("--list values needs --property");
+        const bool selects =
+            m_options.list.empty() && !m_options.dump && !m_options.audit && m_options.why.empty();
+        if (!m_options.write.empty() && !selects)
+            return fail("--write goes with a selection");
         if (!m_options.write.empty() && m_plan.hasSeveralDrawings())
             return fail("--write takes the selection of one drawing");
         if (m_options.overwrite && m_options.write.empty() && m_options.output.empty())

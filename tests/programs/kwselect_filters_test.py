@@ -200,6 +200,39 @@ class Spaces(Plan):
         self.assertEqual(handles(self.plan, "Circle", "--space", "all"),
                          handles(self.plan, "Circle"))
 
+    def test_a_block_is_found_by_name_without_case(self):
+        inside = Run(self.plan, "--space", "block:door", "--columns", "Space,Handle,Type",
+                     "--format", "tsv").lines
+        self.assertTrue(inside)
+        self.assertEqual({line.split("\t")[0] for line in inside}, {"block:DOOR"})
+        handles_inside = [line.split("\t")[1] for line in inside]
+        self.assertFalse(set(handles_inside) & set(handles(self.plan, "--space", "all")))
+        self.assertEqual(handles_inside, self.handles_in_block("DOOR"))
+        unknown = Run(self.plan, "--space", "block:DOR")
+        self.assertEqual(unknown.status, CANNOT_WORK)
+        self.assertIn('no block "DOR"; did you mean "DOOR"?', unknown.errors)
+
+    def handles_in_block(self, name):
+        lines = [line.strip() for line in self.plan.read_text().splitlines()]
+        pairs = list(zip(lines[0::2], lines[1::2]))
+        start = next(i for i, pair in enumerate(pairs)
+                     if pair == ("0", "BLOCK") and ("2", name) in pairs[i:i + 9])
+        found, kind = [], None
+        for code, value in pairs[start + 1:]:
+            if code == "0":
+                if value == "ENDBLK":
+                    return found
+                kind = value
+            elif code == "5" and kind is not None:
+                found.append(value)
+
+    def test_attributes_are_asked_for_by_their_tags(self):
+        expected = [h for h, tag in (line.split("\t") for line in Run(
+            self.plan, "Block Reference: Name = VALVE-DN50", "--columns", "Handle,Attributes:TAG",
+            "--format", "tsv").lines) if tag.endswith("1")]
+        self.assertTrue(expected)
+        self.assertEqual(handles(self.plan, 'Block Reference: Attributes:TAG * "*1"'), expected)
+
     def test_one_that_is_not_there_is_told(self):
         run = Run(self.plan, "--space", "paper:Shet")
         self.assertEqual(run.status, CANNOT_WORK)
