@@ -6,12 +6,17 @@
 #include <runtime/utf8.h>
 
 #include "interrupt.h"
+#include "progress_line.h"
 
 ExitStatus readOrTell(const std::string& file, std::unique_ptr<KdDbDatabase>& database,
                       ReadReport& report, ReadOptions options)
 {
     const InterruptWatch watch;
-    options.progress = [](double) { return !InterruptWatch::wasInterrupted(); };
+    ProgressLine progress;
+    options.progress = [&](double fraction) {
+        progress.show(file + ": " + std::to_string(static_cast<int>(fraction * 100.0)) + " %");
+        return !InterruptWatch::wasInterrupted();
+    };
     const KdErrorStatus status = readDrawing(file, database, report, options);
     if (status == eOk)
         return kSelected;

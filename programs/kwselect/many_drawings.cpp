@@ -1,5 +1,7 @@
 #include "many_drawings.h"
 
+#include "progress_line.h"
+
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
@@ -48,6 +50,7 @@ bool writeAll(int file, const std::string& text)
 /// The child's life.
 [[noreturn]] void searchAndTell(const Plan& plan, const std::string& drawing, int file)
 {
+    ProgressLine::silence();
     std::string pending;
     const auto send = [&](bool always) {
         constexpr std::size_t kEnough = 1 << 16;
@@ -220,6 +223,8 @@ class Children
 
     void count(const SearchResult& result)
     {
+        m_progress.show(std::to_string(m_result.read + m_result.failed + 1) + " of " +
+                        std::to_string(m_plan.drawings.size()) + " drawings");
         ++(result.status == kCannotWork ? m_result.failed : m_result.read);
         if (!result.missing.empty() && m_missingIn++ == 0)
             m_result.missing = result.missing;
@@ -232,6 +237,7 @@ class Children
     const RowSink& m_sink;
     std::deque<Child> m_children; ///< in the order of the drawings
     std::size_t m_next = 0;
+    ProgressLine m_progress;
     std::size_t m_missingIn = 0;
     ManyResult m_result;
 };

@@ -2,7 +2,10 @@
 """kwselect on many drawings at once."""
 
 import json
+import os
+import pty
 import shutil
+import subprocess
 import tempfile
 import unittest
 from pathlib import Path
@@ -74,6 +77,19 @@ class Drawings(unittest.TestCase):
         nowhere = Run(*paths, "Blok Reference")
         self.assertEqual((nowhere.status, nowhere.lines), (NOTHING, []))
         self.assertIn("no drawing has what the filter names", nowhere.errors)
+
+    def test_show_how_far_the_work_is_on_a_terminal_alone(self):
+        paths = self.copies(60)
+        self.assertNotIn(" of 60", Run(*paths, "Circle", "--count").errors)
+        terminal, end = pty.openpty()
+        done = subprocess.run([support.program, *map(str, paths), "Circle", "--count"],
+                              stdout=subprocess.DEVNULL, stderr=end, check=False, timeout=120)
+        os.close(end)
+        shown = os.read(terminal, 1 << 16).decode()
+        os.close(terminal)
+        self.assertEqual(done.returncode, SELECTED)
+        self.assertRegex(shown, r"\r\x1b\[K\d+ of 60 drawings")
+        self.assertTrue(shown.rstrip().endswith("60 drawings read, 0 failed"))
 
     def test_are_grouped_each_for_itself(self):
         paths = self.copies(2)
