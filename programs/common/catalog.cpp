@@ -8,7 +8,7 @@ constexpr int kPoint2d = 5002;
 constexpr int kPoint3d = 5009;
 constexpr int kNone = 5000;
 
-PropertyValue copyOf(const quick_select::Value& value)
+CatalogValue copyOf(const quick_select::Value& value)
 {
     return {value.restype,
             value.text,

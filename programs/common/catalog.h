@@ -16,7 +16,7 @@ struct TypeEntry
 };
 
 /// One value, see `quick_select::Value`.
-struct PropertyValue
+struct CatalogValue
 {
     int restype = 0;
     std::wstring text;
@@ -29,8 +29,8 @@ struct PropertyEntry
 {
     std::wstring key;
     bool readOnly = false;
-    std::vector<PropertyValue> values; ///< empty if nothing answers for the property
-    std::vector<PropertyValue> choices;
+    std::vector<CatalogValue> values; ///< empty if nothing answers for the property
+    std::vector<CatalogValue> choices;
 
     int restype() const;
     bool isPoint() const;

@@ -110,13 +110,13 @@ Cell propertyValueCell(const PropertyEntry& property, int axis)
     PropertyEntry shown = property;
     if (axis > 0) {
         constexpr int kReal = 5001;
-        for (PropertyValue& value : shown.values) {
+        for (CatalogValue& value : shown.values) {
             value.restype = kReal;
             value.number = value.point[axis - 1];
         }
     }
     Cell cell;
-    for (const PropertyValue& value : shown.values)
+    for (const CatalogValue& value : shown.values)
         cell.text += (cell.text.empty() ? "" : " ") + valueText(value);
     cell.json = valuesJson(shown.values);
     return cell;

@@ -56,7 +56,7 @@ Json numberJson(double number)
     return std::isfinite(number) ? Json(number) : Json(nullptr);
 }
 
-Json pointJson(const PropertyValue& value, int dimensions)
+Json pointJson(const CatalogValue& value, int dimensions)
 {
     Json point = Json::array();
     for (int i = 0; i < dimensions; ++i)
@@ -73,7 +73,7 @@ std::string numberText(double number)
     return std::string(buffer, end);
 }
 
-Json valueJson(const PropertyValue& value)
+Json valueJson(const CatalogValue& value)
 {
     switch (value.restype) {
     case kReal:
@@ -97,19 +97,19 @@ Json valueJson(const PropertyValue& value)
     }
 }
 
-Json valuesJson(const std::vector<PropertyValue>& values)
+Json valuesJson(const std::vector<CatalogValue>& values)
 {
     if (values.empty())
         return nullptr;
     if (values.size() == 1)
         return valueJson(values.front());
     Json all = Json::array();
-    for (const PropertyValue& value : values)
+    for (const CatalogValue& value : values)
         all.push_back(valueJson(value));
     return all;
 }
 
-std::string valueText(const PropertyValue& value)
+std::string valueText(const CatalogValue& value)
 {
     if (value.restype == kAngle)
         return angleText(value.number);
