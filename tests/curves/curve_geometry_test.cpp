@@ -142,7 +142,7 @@ INSTANTIATE_TEST_SUITE_P(Directions, CurveOfAnArc,
                                          ArcRow{"lying", {0, 1, 0}, 0.5, 2.0},
                                          ArcRow{"nearZ", {0.01, 0.01, 0.9999}, 0.5, 2.0},
                                          ArcRow{"throughTheXAxis", {0, 0, 1}, 5.0, 1.0}),
-                         [](const auto& info) { return info.param.name; });
+                         [](const auto& row) { return row.param.name; });
 
 TEST(CircArc, CountsANormalWithinOneSixtyFourthAsNearZ)
 {

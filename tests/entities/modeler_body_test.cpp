@@ -130,7 +130,7 @@ INSTANTIATE_TEST_SUITE_P(EachForm, PerforatedRegion,
                          testing::Values(std::pair{"oldText", perforated(false)},
                                          std::pair{"newText", perforated(true)},
                                          std::pair{"binary", asBinary(perforated(true))}),
-                         [](const auto& info) { return info.param.first; });
+                         [](const auto& row) { return row.param.first; });
 
 TEST(Region, FollowsTheSenseOfItsFace)
 {
@@ -233,7 +233,7 @@ INSTANTIATE_TEST_SUITE_P(
         ArchRow{"partOfALongerCurve",
                 "forward { exactcur nubs 2 open 2 0 2 4 2 3 -3 0 1 5 0 -1 -3 0 0 } I I", false, "1",
                 "3"}),
-    [](const auto& info) { return info.param.name; });
+    [](const auto& row) { return row.param.name; });
 
 TEST(Arch, MayShareTheSplineOfAnotherRecord)
 {
@@ -370,7 +370,7 @@ INSTANTIATE_TEST_SUITE_P(
                     DamageRow{"unknownBytes", asBinary("body $-1 #").substr(0, 31)},
                     DamageRow{"textLongerThanTheData",
                               "400 1 1 0\nbody $-1 $-1 $-1 $-1 @4000000000 x #"}),
-    [](const auto& info) { return info.param.name; });
+    [](const auto& row) { return row.param.name; });
 
 TEST(DamagedBody, WithLoopsThatBiteTheirOwnTailsEnds)
 {

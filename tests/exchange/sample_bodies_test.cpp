@@ -112,6 +112,6 @@ TEST_P(SampleBody, HasTheMeasuresComputedByHand)
 }
 
 INSTANTIATE_TEST_SUITE_P(Collection, SampleBody, testing::ValuesIn(presentRows()),
-                         [](const auto& info) { return info.param.name; });
+                         [](const auto& row) { return row.param.name; });
 
 } // namespace

@@ -184,6 +184,6 @@ INSTANTIATE_TEST_SUITE_P(Numbers, ConstraintOfHelix,
                                          ConstraintCase{"turns", "1", KdDb::kHelixTurns},
                                          ConstraintCase{"height", "2", KdDb::kHelixHeight},
                                          ConstraintCase{"none", "9", 9}),
-                         [](const auto& info) { return info.param.name; });
+                         [](const auto& row) { return row.param.name; });
 
 } // namespace

@@ -62,7 +62,7 @@ INSTANTIATE_TEST_SUITE_P(
                  std::sqrt(2.0),
                  3 * kPi / 2,
                  {1, 1 + std::sqrt(2.0)}}),
-    [](const auto& info) { return info.param.name; });
+    [](const auto& row) { return row.param.name; });
 
 TEST(ArcOfSagitta, StandsAsHighOverItsChord)
 {

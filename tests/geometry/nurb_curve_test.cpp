@@ -143,7 +143,7 @@ INSTANTIATE_TEST_SUITE_P(
                     BadSpline{"noNumberAsPoint", 2, {0, 0, 0, 1, 1, 1}, {}, kNotANumber},
                     BadSpline{"weightZero", 2, {0, 0, 0, 1, 1, 1}, {1, 0, 1}},
                     BadSpline{"weightMissing", 2, {0, 0, 0, 1, 1, 1}, {1, 1}}),
-    [](const auto& info) { return info.param.name; });
+    [](const auto& row) { return row.param.name; });
 
 std::unique_ptr<KdGeNurbCurve3d> curveThrough(const KdGeFitData& data)
 {

@@ -124,6 +124,6 @@ INSTANTIATE_TEST_SUITE_P(All, ShadowNames,
                                                    "Receive shadows", "Receives shadows"},
                                          ShadowRow{"none", EntityMembers::Shadows::Ignore,
                                                    "Ignore shadows", "Ignore shadows"}),
-                         [](const auto& info) { return info.param.name; });
+                         [](const auto& row) { return row.param.name; });
 
 } // namespace
