@@ -41,7 +41,7 @@ inline auto frames()
 
 inline auto frameName()
 {
-    return [](const testing::TestParamInfo<FrameRow>& info) { return info.param.name; };
+    return [](const testing::TestParamInfo<FrameRow>& row) { return row.param.name; };
 }
 
 MATCHER_P(IsNear, expected, "")

@@ -3,8 +3,8 @@
 #include "samples.h"
 
 #include <QImage>
-#include <QPalette>
 #include <QPainter>
+#include <QPalette>
 
 #include <set>
 
