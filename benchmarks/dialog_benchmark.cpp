@@ -87,9 +87,9 @@ int main(int argc, char** argv)
         return 1;
     }
     kdutSetPrintSink([](std::wstring_view) {});
-    for (const short listValues : {0, 1}) {
-        const char* const name =
-            listValues == 0 ? "dialog/100000" : "dialog with listed texts/100000";
+    for (const bool listsValues : {false, true}) {
+        const short listValues = listsValues ? 1 : 0;
+        const char* const name = !listsValues ? "dialog/100000" : "dialog with listed texts/100000";
         benchmark::RegisterBenchmark(
             name, [&, listValues](benchmark::State& state) { measure(state, module, listValues); })
             ->Unit(benchmark::kMillisecond)

@@ -10,4 +10,5 @@ root="$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)"
 results="$root/build-benchmark/benchmarks/results.json"
 "$root/build-benchmark/bin/quick_select_benchmark" \
   --benchmark_out="$results" --benchmark_out_format=json "$@" >&2
+QT_QPA_PLATFORM=offscreen "$root/build-benchmark/bin/dialog_benchmark" >&2
 python3 "$root/benchmarks/results_table.py" "$results"
