@@ -160,8 +160,8 @@ class MutatedDrawing : public testing::TestWithParam<fs::path>
             ASSERT_TRUE(drawn.status == eOk || drawn.status == eBadDrawing) << i;
             ASSERT_EQ(drawn.status == eOk, drawn.database != nullptr) << i;
             ASSERT_EQ(drawn.status == eOk, drawn.report.error.isEmpty()) << i;
-            if (drawn.database)
-                ASSERT_EQ(drawn.database->openCount(), 0) << i;
+            const long long opens = drawn.database ? drawn.database->openCount() : 0;
+            ASSERT_EQ(opens, 0) << i;
         }
     }
     static bool isBinary() { return contentOf(GetParam()).find('\0') != std::string::npos; }

@@ -38,7 +38,7 @@ TEST(ExpressionFuzz, HoldsOverSeededTexts)
     std::mt19937 random(7);
     for (int i = 0; i < 20000; ++i) {
         std::string text;
-        for (unsigned piece = random() % 12; piece > 0; --piece)
+        for (auto piece = random() % 12; piece > 0; --piece)
             text += kPieces[random() % std::size(kPieces)];
         ASSERT_EQ(0, run(text)) << text;
     }
