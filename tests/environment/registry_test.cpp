@@ -61,19 +61,19 @@ TEST_F(Registry, TellsTheSizeOfAValue)
     EXPECT_EQ(RegQueryValueExW(key, L"Text", nullptr, &type, nullptr, &size), ERROR_SUCCESS);
     EXPECT_EQ(size, 16u);
     EXPECT_EQ(RegQueryValueExW(key, L"Text", nullptr, nullptr, nullptr, nullptr), ERROR_SUCCESS);
-    unsigned char data[16];
-    std::memset(data, 0xAA, sizeof data);
+    unsigned char bytes[16];
+    std::memset(bytes, 0xAA, sizeof bytes);
     size = 15;
-    EXPECT_EQ(RegQueryValueExW(key, L"Text", nullptr, nullptr, data, &size), ERROR_MORE_DATA);
+    EXPECT_EQ(RegQueryValueExW(key, L"Text", nullptr, nullptr, bytes, &size), ERROR_MORE_DATA);
     EXPECT_EQ(size, 16u);
-    EXPECT_EQ(data[0], 0xAA);
-    EXPECT_EQ(RegQueryValueExW(key, L"Number", nullptr, &type, data, &size), ERROR_SUCCESS);
+    EXPECT_EQ(bytes[0], 0xAA);
+    EXPECT_EQ(RegQueryValueExW(key, L"Number", nullptr, &type, bytes, &size), ERROR_SUCCESS);
     EXPECT_EQ(type, REG_DWORD);
     EXPECT_EQ(size, 4u);
-    EXPECT_EQ(data[0], 7);
-    EXPECT_EQ(RegQueryValueExW(key, L"Number", &size, nullptr, data, &size),
+    EXPECT_EQ(bytes[0], 7);
+    EXPECT_EQ(RegQueryValueExW(key, L"Number", &size, nullptr, bytes, &size),
               ERROR_INVALID_PARAMETER);
-    EXPECT_EQ(RegQueryValueExW(key, L"Number", nullptr, nullptr, data, nullptr),
+    EXPECT_EQ(RegQueryValueExW(key, L"Number", nullptr, nullptr, bytes, nullptr),
               ERROR_INVALID_PARAMETER);
 }
 
