@@ -1,5 +1,6 @@
 #include "modeler_tokens.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <cstring>
@@ -82,7 +83,7 @@ bool ModelerTokens::skipBinaryHeader()
 {
     constexpr std::size_t kIntegers = 4 * sizeof(std::int32_t);
     constexpr int kTextsAndReals = 6;
-    m_at = kBinaryMark.size() + kIntegers;
+    m_at = std::min(kBinaryMark.size() + kIntegers, m_data.size());
     ModelerToken token;
     for (int i = 0; i < kTextsAndReals; ++i) {
         if (!nextInBinary(token))

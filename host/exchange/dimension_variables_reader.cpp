@@ -85,6 +85,17 @@ bool takeOldVariable(RecordReader& reader, KdDbDimValues& values)
     return true;
 }
 
+/// Some programs write the name of the style in place of its handle.
+KdDbObjectId textStyle(RecordReader& reader)
+{
+    KdDbHandle handle = 0;
+    if (parseHandle(reader.group().text, handle))
+        return reader.reference();
+    KdDbObjectId id;
+    reader.source().database.table<KdDbTextStyleTable>().getIdAt(reader.text().kwszPtr(), id);
+    return id;
+}
+
 KdDbDimValue readValue(RecordReader& reader, KdDbDimKind kind)
 {
     switch (kind) {
@@ -97,6 +108,7 @@ KdDbDimValue readValue(RecordReader& reader, KdDbDimKind kind)
     case KdDbDimKind::Text:
         return reader.text();
     case KdDbDimKind::TextStyle:
+        return textStyle(reader);
     case KdDbDimKind::Block:
     case KdDbDimKind::Linetype:
         return reader.reference();

@@ -289,7 +289,7 @@ KdString RecordReader::text()
 KdDbHandle RecordReader::handle()
 {
     KdDbHandle value = 0;
-    if (!parseHandle(m_group.text, value))
+    if (!parseHandle(m_group.text, value) && !trimmed(m_group.text).empty())
         note(DrawingFinding::BadHandle);
     return value;
 }

@@ -247,8 +247,10 @@ TEST(StyleOfADimension, IsTheStandardOneIfNoneIsNamed)
         {section("ENTITIES", {{0, "DIMENSION"}, {8, "0"}, {0, "DIMENSION"}, {3, "GONE"}})}));
     const auto standard = drawn.record<KdDbDimStyleTable>(L"Standard")->objectId();
     EXPECT_EQ(drawn.entity<KdDbDimension>(0)->dimensionStyle(), standard);
-    EXPECT_EQ(drawn.entity<KdDbDimension>(1)->dimensionStyle(),
-              drawn.record<KdDbDimStyleTable>(L"GONE")->objectId());
+    const KdDbObjectId made = drawn.entity<KdDbDimension>(1)->dimensionStyle(); // when it is read
+    const auto* gone = drawn.record<KdDbDimStyleTable>(L"GONE");
+    ASSERT_TRUE(gone);
+    EXPECT_EQ(made, gone->objectId());
     EXPECT_TRUE(drawn.database->openCount() == 0);
 }
 

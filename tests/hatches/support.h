@@ -65,7 +65,8 @@ inline std::unique_ptr<KdDbHatch> hatchOf(std::initializer_list<HatchLoop> loops
 inline double areaOf(const KdDbHatch& hatch)
 {
     double area = -1.0;
-    EXPECT_EQ(hatch.getArea(area), area < 0.0 ? eNotApplicable : eOk);
+    const KdErrorStatus status = hatch.getArea(area);
+    EXPECT_EQ(status, area < 0.0 ? eNotApplicable : eOk);
     return area;
 }
 

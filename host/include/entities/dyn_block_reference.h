@@ -9,7 +9,7 @@
 class KW_EXPORT KdDbDynBlockReferenceProperty
 {
   public:
-    enum UnitsType
+    enum UnitsType : int ///< a drawing may hold other numbers
     {
         kNoUnits = 0,
         kAngle = 1,    ///< radians
