@@ -1,0 +1,69 @@
+/// Collects the shapes of a scene while its entities are walked.
+#pragma once
+
+#include <QImage>
+#include <QString>
+
+#include <span>
+
+#include <geometry/matrix.h>
+#include <kwdraw/scene/scene.h>
+
+/// A path in space, put together step by step.
+class ScenePath
+{
+  public:
+    void moveTo(const KdGePoint3d& point);
+    void lineTo(const KdGePoint3d& point);
+    void cubicTo(const KdGePoint3d& control1, const KdGePoint3d& control2, const KdGePoint3d& end);
+    void close();
+    /// Part of an ellipse from the current point on, or from its own start if the path is empty:
+    /// `center + majorAxis * cos(t) + minorAxis * sin(t)`, `t` in radians from start to end, either
+    /// way round. Pieces are so short that no zoom shows a difference to the ellipse.
+    void ellipseTo(const KdGePoint3d& center, const KdGeVector3d& majorAxis,
+                   const KdGeVector3d& minorAxis, double start, double end);
+    void clear();
+    bool isEmpty() const { return m_steps.empty(); }
+    std::span<const PathStep> steps() const { return m_steps; }
+    std::span<const KdGePoint3d> points() const { return m_points; }
+
+  private:
+    std::vector<PathStep> m_steps;
+    std::vector<KdGePoint3d> m_points;
+};
+
+/// Takes shapes in the frame and with the look that are in force; both are set by whoever walks
+/// entities and blocks (entity_walk). Shapes with no finite place are left out.
+class SceneWriter
+{
+  public:
+    explicit SceneWriter(Scene& scene) : m_scene(scene) {}
+
+    void beginItem(KdDbObjectId id, std::uint32_t layer);
+    void endItem();
+
+    /// The map from the frame in which shapes are given (WCS of the entity, or its block's frame)
+    /// to the plane of the scene.
+    void setFrame(const KdGeMatrix3d& toScene) { m_frame = toScene; }
+    const KdGeMatrix3d& frame() const { return m_frame; }
+    void setLook(const SceneLook& look, std::uint32_t layer);
+    const SceneLook& look() const { return m_look; }
+
+    void stroke(const ScenePath& path);
+    void fill(const ScenePath& path);
+    void fill(const ScenePath& path, const SceneGradient& gradient);
+    void wipeout(const ScenePath& path);
+    /// @param placement  from the text's own frame, see `SceneText`, to that of the entity
+    void text(const QString& text, const SceneFont& font, const KdGeMatrix3d& placement);
+    /// @param placement  from the unit square to the frame of the entity
+    void image(const QImage& picture, const KdGeMatrix3d& placement, const ScenePath& shown);
+    void marker(const KdGePoint3d& position, int mode, double size);
+    void ray(const KdGePoint3d& base, const KdGeVector3d& direction, bool bothSides);
+
+  private:
+    Scene& m_scene;
+    KdGeMatrix3d m_frame;
+    SceneLook m_look;
+    std::uint32_t m_lookIndex = 0;
+    std::uint32_t m_layer = 0;
+};
