@@ -1,5 +1,6 @@
 #include <common/catalog.h>
 
+#include <common/entity_set.h>
 #include <runtime/kd_string.h>
 
 namespace {
@@ -66,6 +67,16 @@ std::vector<TypeEntry> typesInSpace(const Module& module)
 {
     std::vector<TypeEntry> types;
     module.listTypes(nullptr, addType, &types);
+    return types;
+}
+
+std::vector<TypeEntry> typesOf(const Module& module, const std::vector<KdDbObjectId>& entities)
+{
+    std::vector<TypeEntry> types;
+    if (entities.empty())
+        return types;
+    EntitySet set(entities);
+    module.listTypes(set.name(), addType, &types);
     return types;
 }
 

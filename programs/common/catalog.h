@@ -40,6 +40,8 @@ struct PropertyEntry
 };
 
 std::vector<TypeEntry> typesInSpace(const Module& module);
+/// The types of these entities, which may be none.
+std::vector<TypeEntry> typesOf(const Module& module, const std::vector<KdDbObjectId>& entities);
 std::vector<PropertyEntry> propertiesOf(const Module& module, KdDbObjectId entity,
                                         bool withChoices);
 /// One property by its whole key; without values if nothing answers.

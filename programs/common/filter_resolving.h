@@ -9,12 +9,16 @@
 #include <common/expression.h>
 #include <common/lookup.h>
 
-/// What the current space holds, asked of the module once and kept. A new space or drawing needs a
-/// new catalog.
+/// What the current space holds, or some entities of it, asked of the module once and kept. A new
+/// space or drawing needs a new catalog.
 class Catalog
 {
   public:
     explicit Catalog(const Module& module) : m_module(module), m_types(typesInSpace(module)) {}
+    Catalog(const Module& module, const std::vector<KdDbObjectId>& entities)
+        : m_module(module), m_types(typesOf(module, entities))
+    {
+    }
 
     const Module& module() const { return m_module; }
     const std::vector<TypeEntry>& types() const { return m_types; }

@@ -3,10 +3,9 @@
 #include <unordered_set>
 #include <utility>
 
+#include <common/entity_set.h>
 #include <common/nearest_name.h>
-#include <database/object.h>
 #include <editor/command_line.h>
-#include <editor/selection_sets.h>
 #include <runtime/utf8.h>
 
 namespace {
@@ -27,50 +26,6 @@ class Silence
   private:
     KdutPrintSink m_sink;
 };
-
-/// A set of the host, freed at the end of the scope.
-class Set
-{
-  public:
-    Set() = default;
-    explicit Set(const Ids& ids)
-    {
-        kdedSSAdd(nullptr, nullptr, name);
-        for (const KdDbObjectId id : ids) {
-            kds_name member;
-            if (kddbGetKdsName(member, id) == eOk)
-                kdedSSAdd(member, name, name);
-        }
-    }
-    ~Set() { kdedSSFree(name); }
-    Set(const Set&) = delete;
-    Set& operator=(const Set&) = delete;
-
-    kds_name name = {0, 0};
-};
-
-Ids pickfirst()
-{
-    Ids ids;
-    Set set;
-    long length = 0;
-    if (kdedSSGetFirst(set.name) != RTNORM || kdedSSLength(set.name, &length) != RTNORM)
-        return ids;
-    ids.reserve(static_cast<std::size_t>(length));
-    for (long i = 0; i < length; ++i) {
-        kds_name member;
-        KdDbObjectId id;
-        if (kdedSSName(set.name, i, member) == RTNORM && kddbGetObjectId(id, member) == eOk)
-            ids.push_back(id);
-    }
-    return ids;
-}
-
-void setPickfirst(const Ids& ids)
-{
-    const Set set(ids);
-    kdedSSSetFirst(set.name, nullptr);
-}
 
 using Members = std::unordered_set<KdDbObjectId>;
 
@@ -97,39 +52,48 @@ Request requestForAll()
 
 } // namespace
 
+StepScope::StepScope(Catalog& space, const SelectionStep& step, const Ids& selection)
+    : m_space(space)
+{
+    if (step.over != SelectionStep::Over::Selection)
+        return;
+    m_selected.emplace(space.module(), selection);
+    m_within = &selection;
+}
+
 bool Selecting::carryOut(const SelectionStep& step)
 {
-    using Over = SelectionStep::Over;
-    const Ids* within = step.over == Over::Selection ? &m_selection : nullptr;
+    StepScope stepScope(m_catalog, step, m_selection);
+    const SearchScope scope = stepScope.scope();
     Ids found;
     const bool isOneRun = step.expression.kind == Expression::Kind::Comparison;
-    const bool done = isOneRun ? runOne(step.expression.comparison, within, step.exclude, found)
-                      : step.exclude ? excluded(step.expression, within, found)
-                                     : matches(step.expression, within, found);
+    const bool done = isOneRun ? runOne(step.expression.comparison, scope, step.exclude, found)
+                      : step.exclude ? excluded(step.expression, scope, found)
+                                     : matches(step.expression, scope, found);
     if (!done)
         return false;
-    if (step.over == Over::Append) {
+    if (step.over == SelectionStep::Over::Append) {
         const Members selected(m_selection.begin(), m_selection.end());
         for (const KdDbObjectId id : chosen(found, selected, false))
             m_selection.push_back(id);
     } else {
         m_selection = std::move(found);
     }
-    setPickfirst(m_selection);
+    setPickfirstEntities(m_selection);
     return true;
 }
 
-bool Selecting::matches(const Expression& expression, const Ids* within, Ids& found)
+bool Selecting::matches(const Expression& expression, const SearchScope& scope, Ids& found)
 {
     switch (expression.kind) {
     case Expression::Kind::Not:
-        return excluded(expression.parts.front(), within, found);
+        return excluded(expression.parts.front(), scope, found);
     case Expression::Kind::And:
-        return all(expression.parts, within, found);
+        return all(expression.parts, scope, found);
     case Expression::Kind::Or:
-        return any(expression.parts, within, found);
+        return any(expression.parts, scope, found);
     default:
-        return runOne(expression.comparison, within, false, found);
+        return runOne(expression.comparison, scope, false, found);
     }
 }
 
@@ -139,66 +103,82 @@ const Ids& Selecting::space()
         const Silence silence;
         Result result{};
         m_catalog.module().run(requestForAll(), nullptr, result);
-        m_space = pickfirst();
+        m_space = pickfirstEntities();
     }
     return *m_space;
 }
 
-bool Selecting::runOne(const Comparison& comparison, const Ids* within, bool exclude, Ids& found)
+bool Selecting::runOne(const Comparison& comparison, const SearchScope& scope, bool exclude,
+                       Ids& found)
 {
     ResolvedFilter filter;
-    if (!resolve(comparison, m_catalog, filter, m_problem))
-        return false;
-    if (within && within->empty())
+    if (scope.catalog.types().empty()) // no names are known where nothing is
+        return true;
+    if (!resolve(comparison, scope.catalog, filter, m_problem)) {
+        if (!isElsewhereInSpace(comparison, scope))
+            return false;
+        found = exclude ? *scope.within : Ids();
+        return true;
+    }
+    if (scope.within && scope.within->empty())
         return true;
     const Silence silence;
-    if (within)
-        setPickfirst(*within);
+    if (scope.within)
+        setPickfirstEntities(*scope.within);
     Request request = filter.request();
     request.exclude = exclude;
-    request.fromSelection = within != nullptr;
+    request.fromSelection = scope.within != nullptr;
     request.tolerance = m_tolerance ? &*m_tolerance : nullptr;
     Result result{};
     m_catalog.module().run(request, nullptr, result);
     if (result.outcome != Outcome::Done)
         return fail(comparison, result.outcome);
-    found = pickfirst();
+    found = pickfirstEntities();
     return true;
 }
 
-/// Each part searches what the parts before it have found.
-bool Selecting::all(const std::vector<Expression>& parts, const Ids* within, Ids& found)
+/// True if only the selection lacks what a comparison names: then nothing of it matches.
+bool Selecting::isElsewhereInSpace(const Comparison& comparison, const SearchScope& scope) const
 {
-    if (!matches(parts.front(), within, found))
+    ResolvedFilter filter;
+    FilterProblem problem;
+    return m_problem.isMissing && &scope.catalog != &m_catalog &&
+           resolve(comparison, m_catalog, filter, problem);
+}
+
+/// Each part searches what the parts before it have found, by the names of the whole scope.
+bool Selecting::all(const std::vector<Expression>& parts, const SearchScope& scope, Ids& found)
+{
+    if (!matches(parts.front(), scope, found))
         return false;
     for (std::size_t i = 1; i < parts.size(); ++i) {
         const Ids soFar = std::exchange(found, {});
-        if (!matches(parts[i], &soFar, found))
+        if (!matches(parts[i], {scope.catalog, &soFar}, found))
             return false;
     }
     return true;
 }
 
-bool Selecting::any(const std::vector<Expression>& parts, const Ids* within, Ids& found)
+bool Selecting::any(const std::vector<Expression>& parts, const SearchScope& scope, Ids& found)
 {
     Members members;
     for (const Expression& part : parts) {
         Ids some;
-        if (!matches(part, within, some))
+        if (!matches(part, scope, some))
             return false;
         members.insert(some.begin(), some.end());
     }
-    found = chosen(within ? *within : space(), members, true);
+    found = chosen(scope.within ? *scope.within : space(), members, true);
     return true;
 }
 
-bool Selecting::excluded(const Expression& expression, const Ids* within, Ids& found)
+bool Selecting::excluded(const Expression& expression, const SearchScope& scope, Ids& found)
 {
     Ids matching;
-    if (!matches(expression, within, matching))
+    if (!matches(expression, scope, matching))
         return false;
     const Members members(matching.begin(), matching.end());
-    found = chosen(within ? *within : space(), members, false);
+    found = chosen(scope.within ? *scope.within : space(), members, false);
     return true;
 }
 
@@ -231,13 +211,13 @@ void visitEntities(const Module& module, const Ids& ids, quick_select::EntityVis
 {
     if (ids.empty())
         return;
-    Set set(ids);
-    module.listEntities(set.name, visitor, context);
+    EntitySet set(ids);
+    module.listEntities(set.name(), visitor, context);
 }
 
 void tellSelection(const Module& module, const Ids& selection)
 {
-    setPickfirst(selection);
+    setPickfirstEntities(selection);
     Request request = requestForAll();
     request.fromSelection = !selection.empty();
     request.exclude = selection.empty(); // of everything in the space, nothing is left

@@ -26,6 +26,30 @@ struct SelectionStep
     bool exclude = false; ///< everything but the matches
 };
 
+/// What a filter searches, and whose names it knows.
+struct SearchScope
+{
+    Catalog& catalog;
+    const Ids* within = nullptr; ///< null: the whole space
+};
+
+/// The scope of a step. Over the selection it has a catalog of its own, as the dialog has: a
+/// selection of lines alone has all properties of lines in common.
+class StepScope
+{
+  public:
+    /// @param space      the catalog of the whole space; it and `selection` must outlive the scope
+    /// @param selection  what the steps before have selected
+    StepScope(Catalog& space, const SelectionStep& step, const Ids& selection);
+
+    SearchScope scope() { return {m_selected ? *m_selected : m_space, m_within}; }
+
+  private:
+    Catalog& m_space;
+    std::optional<Catalog> m_selected;
+    const Ids* m_within = nullptr;
+};
+
 /// Carries out filters over the current space of the working drawing.
 class Selecting
 {
@@ -40,19 +64,19 @@ class Selecting
     const Ids& selection() const { return m_selection; }
     void setSelection(Ids ids) { m_selection = std::move(ids); }
 
-    /// The entities that an expression matches, in the order of the space or of `within`.
-    /// @param within  null: the whole space
-    bool matches(const Expression& expression, const Ids* within, Ids& found);
+    /// The entities that an expression matches, in the order of the scope. False: `problem()`.
+    bool matches(const Expression& expression, const SearchScope& scope, Ids& found);
     /// What there is to select in the space.
     const Ids& space();
 
     const FilterProblem& problem() const { return m_problem; }
 
   private:
-    bool runOne(const Comparison& comparison, const Ids* within, bool exclude, Ids& found);
-    bool all(const std::vector<Expression>& parts, const Ids* within, Ids& found);
-    bool any(const std::vector<Expression>& parts, const Ids* within, Ids& found);
-    bool excluded(const Expression& expression, const Ids* within, Ids& found);
+    bool runOne(const Comparison& comparison, const SearchScope& scope, bool exclude, Ids& found);
+    bool isElsewhereInSpace(const Comparison& comparison, const SearchScope& scope) const;
+    bool all(const std::vector<Expression>& parts, const SearchScope& scope, Ids& found);
+    bool any(const std::vector<Expression>& parts, const SearchScope& scope, Ids& found);
+    bool excluded(const Expression& expression, const SearchScope& scope, Ids& found);
     bool fail(const Comparison& comparison, quick_select::Outcome outcome);
 
     Catalog& m_catalog;

@@ -25,11 +25,10 @@ void collect(const Expression& expression, Comparisons& comparisons)
         collect(part, comparisons);
 }
 
-Comparisons comparisonsOf(const Plan& plan)
+Comparisons comparisonsOf(const SelectionStep& step)
 {
     Comparisons comparisons;
-    for (const SelectionStep& step : plan.steps)
-        collect(step.expression, comparisons);
+    collect(step.expression, comparisons);
     return comparisons;
 }
 
@@ -95,19 +94,25 @@ std::string toleranceText(const Plan& plan, const Module& module, const Resolved
 }
 
 void tellComparison(std::ostream& stream, const Comparison& comparison, const Plan& plan,
-                    Catalog& catalog, Selecting& selecting)
+                    const SearchScope& scope, Selecting& selecting)
 {
+    stream << "  " << kdToUtf8(textOf(comparison)) << ": ";
     ResolvedFilter filter;
     FilterProblem problem;
     Ids matching;
-    if (!resolve(comparison, catalog, filter, problem) ||
-        !selecting.matches(asExpression(comparison), nullptr, matching))
-        return; // the search has told it
-    const Module& module = catalog.module();
+    if (scope.catalog.types().empty()) {
+        stream << "nothing is selected to search in\n";
+        return;
+    }
+    if (!resolve(comparison, scope.catalog, filter, problem) ||
+        !selecting.matches(asExpression(comparison), scope, matching)) {
+        stream << "not known here\n"; // the search has told why
+        return;
+    }
+    const Module& module = scope.catalog.module();
     Holders holders{module, filter};
-    visitEntities(module, selecting.space(), countHolder, &holders);
-    stream << "  " << kdToUtf8(textOf(comparison)) << ": " << matching.size() << " of "
-           << holders.ofType << " match";
+    visitEntities(module, scope.within ? *scope.within : selecting.space(), countHolder, &holders);
+    stream << matching.size() << " of " << holders.ofType << " match";
     if (filter.property)
         stream << ", " << holders.lacking << " lack the property";
     stream << toleranceText(plan, module, filter) << '\n';
@@ -121,12 +126,17 @@ std::optional<KdDbHandle> readHandle(const std::string& text)
     return read.ec == std::errc() && read.ptr == end ? std::optional(handle) : std::nullopt;
 }
 
+bool isIn(const Ids& ids, KdDbObjectId id)
+{
+    return std::find(ids.begin(), ids.end(), id) != ids.end();
+}
+
 /// Looks at one entity for the answer to "why".
 class Why
 {
   public:
-    Why(std::ostream& stream, Catalog& catalog, Selecting& selecting)
-        : m_stream(stream), m_catalog(catalog), m_selecting(selecting)
+    Why(std::ostream& stream, const SearchScope& scope, Selecting& selecting)
+        : m_stream(stream), m_scope(scope), m_selecting(selecting)
     {
     }
 
@@ -137,9 +147,12 @@ class Why
         Ids found;
         const Ids within{entity.id};
         std::string reason;
-        if (!resolve(comparison, m_catalog, filter, problem)) {
+        if (m_scope.within && !isIn(*m_scope.within, entity.id)) {
+            reason = "it is not selected by the filters before";
+        } else if (!resolve(comparison, m_scope.catalog, filter, problem)) {
             reason = problem.sentence;
-        } else if (!m_selecting.matches(asExpression(comparison), &within, found)) {
+        } else if (!m_selecting.matches(asExpression(comparison), {m_scope.catalog, &within},
+                                        found)) {
             reason = m_selecting.problem().sentence;
         } else {
             reason = reasonOf(entity, filter);
@@ -156,7 +169,7 @@ class Why
         if (!filter.property)
             return "every " + kdToUtf8(filter.type ? entity.displayName : L"entity") + " is";
         const PropertyEntry property =
-            propertyOf(m_catalog.module(), entity.id, filter.property->property.key);
+            propertyOf(m_scope.catalog.module(), entity.id, filter.property->property.key);
         if (property.values.empty())
             return "it lacks the property";
         return kdToUtf8(filter.property->listName()) + " is " +
@@ -164,7 +177,7 @@ class Why
     }
 
     std::ostream& m_stream;
-    Catalog& m_catalog;
+    SearchScope m_scope;
     Selecting& m_selecting;
 };
 
@@ -182,11 +195,6 @@ void tellSought(void* context, const quick_select::Entity& entity)
         sought.why.tell(entity, *comparison);
 }
 
-bool isIn(const Ids& ids, KdDbObjectId id)
-{
-    return std::find(ids.begin(), ids.end(), id) != ids.end();
-}
-
 } // namespace
 
 void tellAccount(std::ostream& stream, const AccountFrame& frame, const Plan& plan,
@@ -197,8 +205,14 @@ void tellAccount(std::ostream& stream, const AccountFrame& frame, const Plan& pl
         candidates += type.count;
     stream << frame.title << ": " << selecting.selection().size() << " of "
            << selecting.space().size() << " selected\n";
-    for (const Comparison* comparison : comparisonsOf(plan))
-        tellComparison(stream, *comparison, plan, catalog, selecting);
+    Selecting again = selecting;
+    again.setSelection({});
+    for (const SelectionStep& step : plan.steps) {
+        StepScope scope(catalog, step, again.selection());
+        for (const Comparison* comparison : comparisonsOf(step))
+            tellComparison(stream, *comparison, plan, scope.scope(), again);
+        again.carryOut(step);
+    }
     stream << "  " << candidates - selecting.space().size() << " on frozen layers are left out, "
            << frame.unread << " could not be read\n";
 }
@@ -214,6 +228,7 @@ WhyAnswer tellWhy(std::ostream& stream, const std::string& handle, const Plan& p
     const OpenForRead<KdDbEntity> entity(id);
     if (!entity || entity->blockId() != kdedCurrentSpaceId())
         return WhyAnswer::NotHere;
+    Selecting again = selecting;
     for (const SelectionStep& step : plan.steps)
         selecting.carryOut(step);
     const bool isSelected = plan.steps.empty() || isIn(selecting.selection(), id);
@@ -221,9 +236,13 @@ WhyAnswer tellWhy(std::ostream& stream, const std::string& handle, const Plan& p
            << (isSelected ? "" : "not ") << "selected\n";
     if (!isIn(selecting.space(), id))
         stream << "  its layer is frozen, or it can't be selected\n";
-    const Comparisons comparisons = comparisonsOf(plan);
-    Why why(stream, catalog, selecting);
-    Sought sought{why, comparisons, id};
-    visitEntities(catalog.module(), {id}, tellSought, &sought);
+    for (const SelectionStep& step : plan.steps) {
+        StepScope scope(catalog, step, again.selection());
+        Why why(stream, scope.scope(), again);
+        const Comparisons comparisons = comparisonsOf(step);
+        Sought sought{why, comparisons, id};
+        visitEntities(catalog.module(), {id}, tellSought, &sought);
+        again.carryOut(step);
+    }
     return isSelected ? WhyAnswer::Selected : WhyAnswer::NotSelected;
 }

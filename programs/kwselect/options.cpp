@@ -1,9 +1,12 @@
 #include "options.h"
 
 #include <algorithm>
+#include <initializer_list>
 #include <iostream>
 #include <map>
+#include <memory>
 #include <string_view>
+#include <utility>
 
 #include <CLI/CLI.hpp>
 
@@ -46,11 +49,22 @@ An audit ends in 0 if nothing is wrong and in 1 if something is and all could be
 constexpr const char* kGiving = "What to select";
 constexpr const char* kShowing = "What to print";
 
+/// Shows what an option takes. What it does not go with is told when somebody tries.
+class HelpFormatter : public CLI::Formatter
+{
+  public:
+    std::string make_option_opts(const CLI::Option* option) const override
+    {
+        return option->get_option_text().empty() ? "" : ' ' + option->get_option_text();
+    }
+};
+
 class CommandLine
 {
   public:
     explicit CommandLine(Options& options) : m_options(options)
     {
+        m_app.formatter(std::make_shared<HelpFormatter>());
         m_app.footer(kFooter);
         m_app.set_version_flag("--version", "kwselect " KW_VERSION, "Print the version and exit");
         m_app.add_option("DRAWING", options.arguments, "Drawings, and a filter");
@@ -74,6 +88,13 @@ class CommandLine
     CLI::Option* perUse(CLI::Option* option)
     {
         return option->expected(1)->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
+    }
+
+    /// Says what to put behind each of these options.
+    static void name(std::initializer_list<std::pair<CLI::Option*, const char*>> values)
+    {
+        for (const auto& [option, value] : values)
+            option->option_text(value);
     }
 
     void declareFilters()
@@ -111,6 +132,16 @@ class CommandLine
             option->group(kGiving);
         for (CLI::Option* plain : {m_type, m_property, m_op, m_value})
             plain->excludes(filter);
+        name({{filter, "FILTER"},
+              {m_type, "TYPE"},
+              {m_property, "PROPERTY"},
+              {m_op, "OPERATOR"},
+              {m_value, "VALUE"},
+              {m_then, "FILTER"},
+              {m_append, "FILTER"},
+              {tolerance, "NUMBER"},
+              {file, "FILE"},
+              {space, "SPACE"}});
     }
 
     void declareWork()
@@ -148,6 +179,7 @@ class CommandLine
         }
         for (CLI::Option* filter : {m_op, m_value, m_exclude, m_then, m_append})
             list->excludes(filter);
+        name({{list, "WHAT"}, {group, "PROPERTY"}, {why, "HANDLE"}});
     }
 
     void declareOutput()
@@ -174,6 +206,11 @@ class CommandLine
         jobs->check(CLI::Range(1u, 256u));
         for (CLI::Option* option : {format, columns, write, output, overwrite, jobs})
             option->group(kShowing);
+        name({{format, "NAME"},
+              {columns, "LIST"},
+              {write, "FILE"},
+              {output, "FILE"},
+              {jobs, "NUMBER"}});
     }
 
     /// Puts the further filters in the order in which they were typed.

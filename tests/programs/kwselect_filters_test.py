@@ -101,6 +101,23 @@ class Steps(Plan):
 
     def test_then_over_nothing_finds_nothing(self):
         self.assertEqual(handles(self.plan, "Layer = NONE", "--then", "Line"), [])
+        self.assertEqual(handles(self.plan, "Layer = NONE", "--then", "Length > 1"), [])
+
+    def test_then_knows_the_properties_that_the_selected_have_in_common(self):
+        long = handles(self.plan, "Line: Length > 3000")
+        walls = handles(self.plan, "Line: Layer = WALLS")
+        both = [h for h in walls if h in long]
+        self.assertTrue(both and len(both) < len(walls))
+        self.assertEqual(handles(self.plan, "Line: Layer = WALLS", "--then", "Length > 3000"), both)
+        self.assertEqual(handles(self.plan, "Line", "--then", "Layer = WALLS and Length > 3000"),
+                         both)
+        self.assertEqual(Run(self.plan, "Length > 3000").status, CANNOT_WORK)
+
+    def test_then_finds_nothing_of_a_type_that_only_the_drawing_has(self):
+        self.assertEqual(handles(self.plan, "Line", "--then", "Circle: Radius > 1"), [])
+        self.assertEqual(handles(self.plan, "Line", "--then", "Circle: Radius > 1", "--exclude"),
+                         handles(self.plan, "Line"))
+        self.assertEqual(Run(self.plan, "Line", "--then", "Kreis").status, CANNOT_WORK)
 
     def test_append_adds_behind_what_is_selected(self):
         self.assertEqual(handles(self.plan, "Circle", "--append", "Line"),
@@ -266,6 +283,19 @@ class Accounts(Plan):
         self.assertEqual(no.status, NOTHING)
         self.assertIn("is not selected", no.lines[0])
         self.assertEqual(no.lines[1], "  no   Circle: Radius > 10: it is a Line")
+
+    def test_each_filter_is_explained_over_what_it_searches(self):
+        run = Run(self.plan, "Line", "--then", "Length > 3000", "--explain")
+        lines = len(handles(self.plan, "Line"))
+        self.assertRegex(run.errors, rf"Length > 3000: {len(run.lines)} of {lines} match")
+        nothing = Run(self.plan, "Layer = NONE", "--then", "Length > 3000", "--explain")
+        self.assertIn("Length > 3000: nothing is selected to search in", nothing.errors)
+
+    def test_why_tells_that_a_filter_before_left_the_entity_out(self):
+        circle = handles(self.plan, "Circle")[0]
+        run = Run(self.plan, "Line", "--then", "Length > 3000", "--why", circle)
+        self.assertIn("no   Line: it is a Circle", run.lines[1])
+        self.assertIn("no   Length > 3000: it is not selected by the filters before", run.lines[2])
 
     def test_why_of_a_frozen_entity_says_so(self):
         frozen = next(e["handle"] for e in model_entities(self.plan)
