@@ -55,6 +55,8 @@ int KdDbHelix_Extension::getEntityTotalLength(const KdDbEntity* entity, double& 
     constexpr int kNoEntity = 15;
     if (!entity)
         return kNoEntity;
+    if (!entity->isKindOf(KdDbCurve::desc()))
+        return 0;
     const std::unique_ptr<KdGeCurve3d> curve(asIcGeCurve(entity, false, false));
     if (!curve)
         return 0;

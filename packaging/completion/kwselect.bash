@@ -1,4 +1,4 @@
-# Completion of kwselect for bash. Types and properties are asked of the drawing on the line.
+# Completion of kwselect for bash. What can be asked for is asked of the drawing on the line.
 
 _kwselect_drawing() {
     local word
@@ -22,11 +22,13 @@ _kwselect_given() {
 }
 
 _kwselect_listed() {
-    local drawing type
+    local drawing type property=
     drawing=$(_kwselect_drawing)
     [[ -n $drawing ]] || return
     type=$(_kwselect_given -t --type)
-    kwselect "$drawing" --list "$1" ${type:+--type "$type"} --format tsv 2>/dev/null | cut -f1
+    [[ $1 == properties ]] || property=$(_kwselect_given -p --property)
+    kwselect "$drawing" --list "$1" ${type:+--type "$type"} ${property:+--property "$property"} \
+        --format tsv 2>/dev/null | cut -f1
 }
 
 # Offers lines that may hold blanks.
@@ -43,12 +45,13 @@ _kwselect() {
     case $previous in
     -t | --type) _kwselect_offer < <(kwselect "$(_kwselect_drawing)" --list types --format tsv 2>/dev/null | cut -f1) ;;
     -p | --property | --columns | --group-by) _kwselect_offer < <(_kwselect_listed properties) ;;
-    -o | --operator) COMPREPLY=($(compgen -W "= '<>' '>' '<' '*' all" -- "$current")) ;;
-    --list) COMPREPLY=($(compgen -W "types properties values filters" -- "$current")) ;;
+    -o | --operator) _kwselect_offer < <(_kwselect_listed operators) ;;
+    -v | --value) _kwselect_offer < <(_kwselect_listed values) ;;
+    --list) COMPREPLY=($(compgen -W "types properties operators values filters" -- "$current")) ;;
     --format) COMPREPLY=($(compgen -W "handles table tsv csv json jsonl" -- "$current")) ;;
     --space) COMPREPLY=($(compgen -W "model paper: block: all" -- "$current")) ;;
     --output | --write | --filters) COMPREPLY=($(compgen -f -- "$current")) ;;
-    -f | --filter | --then | --append | -v | --value | --tolerance | --why | -j | --jobs) COMPREPLY=() ;;
+    -f | --filter | --then | --append | --tolerance | --why | -j | --jobs) COMPREPLY=() ;;
     *)
         if [[ $current == -* ]]; then
             COMPREPLY=($(compgen -W "$(kwselect --help | grep -oE '(^|[ ,])--?[a-z][a-z-]*' | tr -d ' ,' | sort -u)" -- "$current"))

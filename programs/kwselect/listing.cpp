@@ -39,6 +39,13 @@ void listProperties(const Module& module, const std::vector<PropertyEntry>& prop
     }
 }
 
+/// One operator a row.
+void listOperators(const Module& module, const ChosenProperty& chosen, const RowSink& sink)
+{
+    for (const std::wstring& op : operatorsFor(module, chosen.property.restype()))
+        sink({textCell(op.empty() ? "all" : kdToUtf8(op))});
+}
+
 struct ValueSearch
 {
     const Module& module;
@@ -85,6 +92,8 @@ bool listCatalog(Catalog& catalog, const Options& options, const RowSink& sink,
         return false;
     if (options.list == "values")
         listValues(catalog.module(), filter, sink);
+    else if (options.list == "operators")
+        listOperators(catalog.module(), *filter.property, sink);
     else
         listProperties(
             catalog.module(),

@@ -146,10 +146,12 @@ class CommandLine
 
     void declareWork()
     {
-        const auto list = m_app
-                              .add_option("--list", m_options.list,
-                                          "List types, properties, values or filters instead")
-                              ->check(CLI::IsMember({"types", "properties", "values", "filters"}));
+        const auto list =
+            m_app
+                .add_option("--list", m_options.list,
+                            "List types, properties, operators, values or filters "
+                            "instead")
+                ->check(CLI::IsMember({"types", "properties", "operators", "values", "filters"}));
         const auto dump = m_app.add_flag("--dump", m_options.dump,
                                          "Print every entity with all its properties instead, one "
                                          "JSON object a line");

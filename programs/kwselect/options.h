@@ -32,7 +32,7 @@ struct Options
     std::optional<double> tolerance;
     std::string space = "model";
 
-    std::string list; ///< "types", "properties", "values", "filters", or empty
+    std::string list; ///< what to list, or empty
     bool dump = false;
     bool audit = false;
     bool count = false;

@@ -150,13 +150,16 @@ class PlanMaker
             return {"Type", "Count", "Class"};
         if (m_options.list == "properties")
             return {"Property", "Category", "Operators"};
+        if (m_options.list == "operators")
+            return {"Operator"};
         return {"Value", "Count"};
     }
 
     bool checkOptions()
     {
-        if (m_options.list == "values" && m_options.property.empty())
-            return fail("--list values needs --property");
+        const bool listsOfProperty = m_options.list == "values" || m_options.list == "operators";
+        if (listsOfProperty && m_options.property.empty())
+            return fail("--list " + m_options.list + " needs --property");
         const bool selects =
             m_options.list.empty() && !m_options.dump && !m_options.audit && m_options.why.empty();
         if (!m_options.write.empty() && !selects)

@@ -1,3 +1,4 @@
+#include <entities/face.h>
 #include <entities/spline.h>
 
 #include "support.h"
@@ -76,6 +77,8 @@ TEST_F(HelixProvider, KnowsNoLengthWithoutAnEntity)
 {
     double length = 7.0;
     EXPECT_EQ(provider.getEntityTotalLength(nullptr, length), 15);
+    KdDbFace face; // which has an outline, but is no curve
+    EXPECT_EQ(provider.getEntityTotalLength(&face, length), 0);
     EXPECT_EQ(length, 7.0);
 }
 

@@ -290,6 +290,9 @@ TEST_F(Catalog, SharesTheFirstListOfPlotStyles)
     catalog.AddNewTypeProperties(kOtherToy, other);
     EXPECT_THAT(valueOf(L"Plot style").strings, ElementsAre(L"Bold"));
     EXPECT_EQ(catalog.GetValue(kAllTypes, L"Plot style"), &valueOf(L"Plot style"));
+    other->properties.front().behind = {text(L"Thin")};
+    catalog.AddNewTypeProperties(L"A third type", other);
+    EXPECT_THAT(valueOf(L"Plot style").strings, ElementsAre(L"Bold"));
 }
 
 /// Sections name the coordinates of their points by the bare letters.

@@ -230,6 +230,16 @@ const ChosenRow kChosen[] = {
 INSTANTIATE_TEST_SUITE_P(Kinds, ChosenValue, testing::ValuesIn(kChosen),
                          [](const auto& row) { return std::string(row.param.name); });
 
+TEST_F(Outcome, TakesTheReservedNameOfALineweightAndNotTheTextOfItsRow)
+{
+    accept({L"A:P", text(L"x", 370)}, [](Person& person) {
+        person.chooseValue("ByLayer");
+        QComboBox& weights = *person.valueCombo();
+        weights.setItemText(weights.currentIndex(), "as the layer has it");
+    });
+    EXPECT_EQ(filter().getString(), L"ByLayer");
+}
+
 TEST_F(Outcome, HoldsChosenTruth)
 {
     accept({L"A:P", truth(false)}, [](Person& person) { person.chooseValue("true"); });
@@ -293,9 +303,11 @@ TEST_F(Outcome, SetsOneCoordinateOfAPlanePoint)
 
 TEST_F(Outcome, LeavesTheKeysOfScalesWhole)
 {
-    acceptTyped({L"Geometry:Scale Y", real(1.0)}, "2");
-    EXPECT_EQ(property().propertyKey, L"Geometry:Scale Y");
-    EXPECT_EQ(property().axis, 0);
+    for (const wchar_t* key : {L"Geometry:Scale X", L"Geometry:Scale Y", L"Geometry:Scale Z"}) {
+        acceptTyped({key, real(1.0)}, "2");
+        EXPECT_EQ(property().propertyKey, key);
+        EXPECT_EQ(property().axis, 0);
+    }
 }
 
 TEST_F(Outcome, CutsTheLetterOfAnAxisAlsoOffAPlainReal)
@@ -356,6 +368,19 @@ TEST_P(RefusedInteger, KeepsTheDialogOpen)
 const RefusedRow kIntegers[] = {{"int8", 280}, {"int16", 5003}, {"int32", 5010}};
 INSTANTIATE_TEST_SUITE_P(Kinds, RefusedInteger, testing::ValuesIn(kIntegers),
                          [](const auto& row) { return std::string(row.param.name); });
+
+TEST_F(Outcome, HoldsOneFilterWhenADialogIsAcceptedTwice)
+{
+    makeDialog({addToy({{L"A:P", integer(1)}})});
+    for (const char* typed : {"12", "34"}) {
+        use([&](Person& person) {
+            person.type(typed);
+            person.click("IDOK");
+        });
+    }
+    EXPECT_EQ(filter().getInt32(), 34);
+    EXPECT_EQ(filter().next(), nullptr);
+}
 
 TEST_F(Outcome, RefusesAComboWithoutARow)
 {

@@ -109,6 +109,31 @@ TEST_F(Settings, ComeBackAsTheyWereWritten)
     });
 }
 
+TEST_F(Settings, RememberAllTypesByTheTextThatWasShown)
+{
+    makeDialog(types);
+    use([](Person& person) { person.click("IDOK"); });
+    EXPECT_STREQ(stored(L"Type").text(), L"Multiple");
+    makeDialog(types);
+    use([](Person& person) {
+        person.find<QComboBox>("IDC_QSELECT_OBJECT_TYPE_COMBO").setItemText(0, "Mehrere");
+        person.click("IDOK");
+    });
+    EXPECT_STREQ(stored(L"Type").text(), L"Mehrere");
+    makeDialog(types);
+    use([](Person& person) { EXPECT_EQ(person.typeName(), "Multiple"); });
+}
+
+TEST_F(Settings, LeaveTheTypeAloneThatTheDrawingDoesNotHold)
+{
+    remember(L"Type", L"Kreis");
+    makeDialog(types);
+    use([](Person& person) { EXPECT_EQ(person.typeName(), "Multiple"); });
+    const Entities circles = {types.back()};
+    makeDialog(circles);
+    use([](Person& person) { EXPECT_EQ(person.typeName(), "Circle"); });
+}
+
 TEST_F(Settings, RememberASetOfSamplesByItsRow)
 {
     remember(L"Type", L"Circle");

@@ -68,6 +68,12 @@ class Bash(unittest.TestCase):
         self.assertEqual(self.complete(*words), ["Radius"])
         self.assertEqual(self.complete("kwselect", str(support.plan()), "-p", "Rad"), [""])
 
+    def test_offers_the_operators_and_values_of_the_property(self):
+        words = ["kwselect", str(support.plan()), "-t", "Circle", "-p"]
+        self.assertEqual(self.complete(*words, "Layer", "-o", ""), ["=", "\\<\\>", "all"])
+        self.assertEqual(self.complete(*words, "Radius", "-o", "'>"), ["\\>"])
+        self.assertEqual(self.complete(*words, "Layer", "-v", "pipes-h"), ["PIPES-HOT"])
+
     def test_offers_options_and_their_values(self):
         self.assertEqual(self.complete("kwselect", "--exp"), ["--explain"])
         self.assertEqual(self.complete("kwselect", "--format", "j"), ["json", "jsonl"])
@@ -90,6 +96,11 @@ class Fish(unittest.TestCase):
     def test_offers_the_properties_of_the_type(self):
         self.assertIn("Radius", self.complete(f"kwselect {support.plan()} -t Circle -p "))
 
+    def test_offers_the_operators_and_values_of_the_property(self):
+        line = f"kwselect {support.plan()} -t Circle -p Layer "
+        self.assertEqual(set(self.complete(line + "-o ")), {"=", "<>", "all"})
+        self.assertIn("PIPES-HOT", self.complete(line + "-v "))
+
 
 class Pipelines(unittest.TestCase):
     """The pipelines of the user's guide."""
@@ -101,6 +112,15 @@ class Pipelines(unittest.TestCase):
                        "xargs -0 -P 1 -n 2 kwselect 'Circle' --count 2>/dev/null || true")
         counts = [line.split("\t")[-1] for line in piped.splitlines()]
         self.assertEqual(counts, [line.split("\t")[-1] for line in direct.lines])
+
+    def test_with_parallel_give_what_one_run_gives(self):
+        drawings = sorted(str(path) for path in support.drawings.glob("*.dxf"))
+        direct = Run(*drawings, "Circle", "--count")
+        # ":" is this machine, in the place of the names of others.
+        piped = output("sh", "-c", f"printf '%s\\n' {shlex.join(drawings)} | "
+                       "parallel --will-cite -k --sshlogin 2/: kwselect {} Circle --count "
+                       "2>/dev/null || true")
+        self.assertEqual(piped.splitlines(), [line.split("\t")[-1] for line in direct.lines])
 
 
 if __name__ == "__main__":

@@ -131,6 +131,15 @@ class Listing(unittest.TestCase):
         self.assertEqual(dict(line.split("\t") for line in lines),
                          {layer: str(count) for layer, count in counts.items()})
 
+    def test_operators_are_those_of_the_property(self):
+        listed = Run(self.plan, "--list", "operators", "-t", "Circle", "-p", "Radius").lines
+        self.assertEqual(listed, ["=", "<>", ">", "<", "all"])
+        listed = Run(self.plan, "--list", "operators", "-p", "Layer").lines
+        self.assertEqual(listed, ["=", "<>", "all"])
+        run = Run(self.plan, "--list", "operators")
+        self.assertEqual(run.status, CANNOT_WORK)
+        self.assertIn("--list operators needs --property", run.errors)
+
     def test_values_without_a_property_are_refused(self):
         run = Run(self.plan, "--list", "values")
         self.assertEqual(run.status, CANNOT_WORK)
