@@ -2,6 +2,7 @@
 
 #include <iostream>
 
+#include <common/drawing_reading.h>
 #include <database/database.h>
 #include <runtime/utf8.h>
 
@@ -17,7 +18,7 @@ ExitStatus readOrTell(const std::string& file, std::unique_ptr<KdDbDatabase>& da
         progress.show(file + ": " + std::to_string(static_cast<int>(fraction * 100.0)) + " %");
         return !InterruptWatch::wasInterrupted();
     };
-    const KdErrorStatus status = readDrawing(file, database, report, options);
+    const KdErrorStatus status = readDrawingOrConvert(file, database, report, options);
     if (status == eOk)
         return kSelected;
     std::cerr << "kwselect: " << file << ": " << kdToUtf8(report.error) << '\n';

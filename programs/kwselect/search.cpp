@@ -1,6 +1,8 @@
 #include "search.h"
 
+#include <filesystem>
 #include <iostream>
+#include <system_error>
 
 #include <exchange/drawing_writer.h>
 #include <runtime/utf8.h>
@@ -161,8 +163,11 @@ class Search
         KdString error;
         WriteOptions writing;
         writing.overwrite = m_options.overwrite;
-        if (writeSelection(m_drawing.database(), m_selected, m_options.write, error, writing) ==
-            eOk)
+        std::error_code noCode;
+        if (std::filesystem::equivalent(m_options.write, m_file, noCode)) // also one converted
+            error = L"This is the drawing itself, which is never replaced.";
+        else if (writeSelection(m_drawing.database(), m_selected, m_options.write, error,
+                                writing) == eOk)
             return;
         std::cerr << "kwselect: " << m_options.write << ": " << kdToUtf8(error) << '\n';
         m_result.status = kCannotWork;

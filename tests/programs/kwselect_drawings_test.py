@@ -5,13 +5,15 @@ import json
 import os
 import pty
 import shutil
+import signal
 import subprocess
 import tempfile
+import time
 import unittest
 from pathlib import Path
 
 import support
-from support import CANNOT_WORK, IN_PART, NOTHING, SELECTED, Run
+from support import CANNOT_WORK, IN_PART, INTERRUPTED, NOTHING, SELECTED, Run, plan
 
 
 class Drawings(unittest.TestCase):
@@ -101,6 +103,75 @@ class Drawings(unittest.TestCase):
         run = Run("Circle")
         self.assertEqual(run.status, CANNOT_WORK)
         self.assertIn("DRAWING", run.errors)
+
+
+
+class DwgDrawings(unittest.TestCase):
+    """Drawings that only a converter can read. The one used here hands out a DXF file."""
+
+    def setUp(self):
+        self.folder = tempfile.TemporaryDirectory()
+        self.drawing = Path(self.folder.name) / "plan.dwg"
+        self.drawing.write_bytes(b"AC1027" + bytes(200))
+        self.temporary = Path(self.folder.name) / "temporary"
+        self.temporary.mkdir()
+
+    def tearDown(self):
+        self.folder.cleanup()
+
+    def run_with(self, script, *arguments):
+        programs = Path(self.folder.name) / "bin"
+        programs.mkdir(exist_ok=True)
+        if script:
+            converter = programs / "dwg2dxf"
+            converter.write_text("#!/bin/sh\n" + script)
+            converter.chmod(0o755)
+        run = Run(self.drawing, *arguments, environment={"PATH": f"{programs}:/usr/bin:/bin",
+                                                         "TMPDIR": str(self.temporary)})
+        self.assertEqual(list(self.temporary.iterdir()), [], "a temporary file is left")
+        return run
+
+    def test_are_read_through_a_converter_on_the_path(self):
+        script = f'[ "$1 $2" = "-y -o" ] && [ "$4" = "{self.drawing}" ] && cp "{plan()}" "$3"\n'
+        run = self.run_with(script, "Circle: Radius > 10")
+        self.assertEqual(run.lines, Run(plan(), "Circle: Radius > 10").lines)
+        self.assertEqual(run.status, SELECTED)
+
+    def test_are_never_replaced_by_their_selection(self):
+        run = self.run_with(f'cp "{plan()}" "$3"\n', "Circle", "--write", self.drawing,
+                            "--overwrite")
+        self.assertEqual(run.status, CANNOT_WORK)
+        self.assertIn("the drawing itself", run.errors)
+        self.assertTrue(self.drawing.read_bytes().startswith(b"AC1027"))
+
+    def test_are_refused_with_advice_where_there_is_none(self):
+        run = self.run_with(None, "Circle")
+        self.assertEqual((run.status, run.lines), (CANNOT_WORK, []))
+        self.assertRegex(run.errors, r"plan\.dwg: The file is a DWG drawing\. Install .*dwg2dxf")
+
+    def test_are_refused_where_the_converter_fails_or_writes_nothing(self):
+        for script in ("exit 1\n", "exit 0\n", "kill -SEGV $$\n"):
+            run = self.run_with(script, "Circle")
+            self.assertEqual((run.status, run.lines), (CANNOT_WORK, []))
+            self.assertIn("can't be converted", run.errors)
+
+    def test_are_given_up_by_an_interrupt_with_their_converter(self):
+        told = Path(self.folder.name) / "process"
+        programs = Path(self.folder.name) / "bin"
+        programs.mkdir()
+        (programs / "dwg2dxf").write_text(f"#!/bin/sh\necho $$ > {told}\nexec sleep 60\n")
+        (programs / "dwg2dxf").chmod(0o755)
+        run = subprocess.Popen([support.program, str(self.drawing), "Circle"],
+                               stderr=subprocess.PIPE,
+                               env={**os.environ, "PATH": f"{programs}:/usr/bin:/bin",
+                                    "TMPDIR": str(self.temporary)})
+        while not (told.exists() and told.read_text().strip()):
+            time.sleep(0.02)
+        run.send_signal(signal.SIGINT)
+        _, errors = run.communicate(timeout=30)
+        self.assertEqual(run.returncode, INTERRUPTED, errors)
+        self.assertFalse(Path(f"/proc/{told.read_text().strip()}").exists())
+        self.assertEqual(list(self.temporary.iterdir()), [])
 
 
 if __name__ == "__main__":
