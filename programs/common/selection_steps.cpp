@@ -27,6 +27,21 @@ class Silence
     KdutPrintSink m_sink;
 };
 
+/// What a property of few or peculiar values takes, as the end of a sentence.
+std::string hintOn(const ResolvedFilter& filter)
+{
+    constexpr int kTruth = 290;
+    constexpr int kColor = 5011;
+    const int kind = filter.property ? filter.property->property.restype() : 0;
+    if (kind == kTruth)
+        return "; it is true or false";
+    if (kind == kColor)
+        return "; it is ByLayer, ByBlock, a name such as red, a number from 1 to 255, or red, "
+               "green "
+               "and blue as 255,128,0";
+    return {};
+}
+
 using Members = std::unordered_set<KdDbObjectId>;
 
 /// Those of `from` that are members, or that are not, in the order of `from`.
@@ -132,7 +147,7 @@ bool Selecting::runOne(const Comparison& comparison, const SearchScope& scope, b
     Result result{};
     m_catalog.module().run(request, nullptr, result);
     if (result.outcome != Outcome::Done)
-        return fail(comparison, result.outcome);
+        return fail(comparison, filter, result.outcome);
     found = pickfirstEntities();
     return true;
 }
@@ -182,13 +197,13 @@ bool Selecting::excluded(const Expression& expression, const SearchScope& scope,
     return true;
 }
 
-bool Selecting::fail(const Comparison& comparison, Outcome outcome)
+bool Selecting::fail(const Comparison& comparison, const ResolvedFilter& filter, Outcome outcome)
 {
     m_problem = {{}, comparison.place, false};
     switch (outcome) {
     case Outcome::BadValue:
         m_problem = {inQuotes(comparison.value) + " is no value for the property " +
-                         inQuotes(comparison.subject.back()),
+                         inQuotes(comparison.subject.back()) + hintOn(filter),
                      comparison.valuePlace, false};
         break;
     case Outcome::BadOperator:

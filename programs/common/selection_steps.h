@@ -77,7 +77,8 @@ class Selecting
     bool all(const std::vector<Expression>& parts, const SearchScope& scope, Ids& found);
     bool any(const std::vector<Expression>& parts, const SearchScope& scope, Ids& found);
     bool excluded(const Expression& expression, const SearchScope& scope, Ids& found);
-    bool fail(const Comparison& comparison, quick_select::Outcome outcome);
+    bool fail(const Comparison& comparison, const ResolvedFilter& filter,
+              quick_select::Outcome outcome);
 
     Catalog& m_catalog;
     std::optional<double> m_tolerance;

@@ -165,7 +165,7 @@ class Search
         writing.overwrite = m_options.overwrite;
         std::error_code noCode;
         if (std::filesystem::equivalent(m_options.write, m_file, noCode)) // also one converted
-            error = L"This is the drawing itself, which is never replaced.";
+            error = L"A drawing can't be written over the file that it comes from.";
         else if (writeSelection(m_drawing.database(), m_selected, m_options.write, error,
                                 writing) == eOk)
             return;

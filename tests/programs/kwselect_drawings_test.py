@@ -141,7 +141,7 @@ class DwgDrawings(unittest.TestCase):
         run = self.run_with(f'cp "{plan()}" "$3"\n', "Circle", "--write", self.drawing,
                             "--overwrite")
         self.assertEqual(run.status, CANNOT_WORK)
-        self.assertIn("the drawing itself", run.errors)
+        self.assertIn("written over the file that it comes from", run.errors)
         self.assertTrue(self.drawing.read_bytes().startswith(b"AC1027"))
 
     def test_are_refused_with_advice_where_there_is_none(self):

@@ -78,6 +78,8 @@ class Expressions(Plan):
                 ("Circle: Radius > 1 Layer", '"1 Layer" is no value', 17),
                 ("Line or Circle: Radus > 1", 'did you mean "Radius"?', 8),
                 ("Circle: Layer > A", 'There are: =, <>, all', 16),
+                ("Polyline: Closed = yes", "it is true or false", 19),
+                ("Color = reddish", "a name such as red", 8),
                 ("Kreis: Radius > 1", 'no object type "Kreis"', 0)):
             with self.subTest(expression):
                 run = Run(self.plan, expression)

@@ -140,6 +140,12 @@ class Listing(unittest.TestCase):
         self.assertEqual(run.status, CANNOT_WORK)
         self.assertIn("--list operators needs --property", run.errors)
 
+    def test_values_that_are_numbers_come_by_their_size(self):
+        lines = Run(self.plan, "--list", "values", "--type", "Circle", "--property", "Radius").lines
+        radii = [float(line.split("\t")[0]) for line in lines]
+        self.assertEqual(radii, sorted(radii))
+        self.assertEqual((radii[0], radii[-1]), (7.5, 200.0))
+
     def test_values_without_a_property_are_refused(self):
         run = Run(self.plan, "--list", "values")
         self.assertEqual(run.status, CANNOT_WORK)
