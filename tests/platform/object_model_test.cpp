@@ -113,7 +113,9 @@ TEST_F(ObjectModel, SpeaksTheChosenLanguage)
 {
     const KdDbObjectId id = add(new KdDbBlockReference);
     setResourceLanguage("de");
-    EXPECT_EQ(name(id), L"Block Reference"); // the library exists in English alone
+    EXPECT_EQ(name(id), L"Blockreferenz");
+    setResourceLanguage("fr"); // English, where there is no library
+    EXPECT_EQ(name(id), L"Block Reference");
     setResourceLanguage("");
 }
 

@@ -391,6 +391,14 @@ class Refusing(unittest.TestCase):
         self.assertTrue(run.lines)
         self.assertIn("read only in part", run.errors)
 
+    def test_speaks_the_users_language(self):
+        german = {"LC_ALL": "de_DE.UTF-8"}
+        run = Run(self.plan, "Kreis: Durchmesser > 50", environment=german)
+        self.assertEqual((run.status, run.lines), (SELECTED, ["52"]))
+        self.assertEqual(run.errors, "1 Objekt(e) gewählt.\n")
+        types = Run(self.plan, "--list", "types", environment=german).lines
+        self.assertIn("Blockreferenz\t7\tAcDbBlockReference", types)
+
     def test_a_missing_module_is_one_line(self):
         run = Run(self.plan, "--dump", environment={"KW_MODULE": "/nowhere/module.so"})
         self.assertEqual(run.status, CANNOT_WORK)

@@ -25,7 +25,7 @@ class Run:
 
     def __init__(self, *arguments, environment=None, folder=None, text=None):
         done = subprocess.run([program, *map(str, arguments)], capture_output=True, timeout=120,
-                              env={**os.environ, **(environment or {})}, cwd=folder, check=False,
+                              env={**os.environ, "LC_ALL": "C.UTF-8", **(environment or {})}, cwd=folder, check=False,
                               input=None if text is None else text.encode())
         self.status = done.returncode
         self.output = done.stdout
