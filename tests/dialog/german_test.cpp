@@ -28,8 +28,8 @@ TEST_F(German, NamesTypesPropertiesAndOperators)
         EXPECT_EQ(person.rows("IDC_QSELECT_OBJECT_TYPE_COMBO"),
                   (QStringList{"Mehrere", "Linie", "Kreis"}));
         EXPECT_EQ(person.property(), "Farbe");
-        EXPECT_EQ(person.operatorName(), "= Gleich");
         person.chooseType("Kreis");
+        EXPECT_EQ(person.operatorName(), "= Gleich");
         EXPECT_TRUE(person.properties().contains("Kreisumfang"));
         EXPECT_TRUE(person.properties().contains("Mitte X"));
         EXPECT_EQ(person.find<QPushButton>("IDCANCEL").text(), "Abbrechen");
