@@ -132,7 +132,7 @@ INSTANTIATE_TEST_SUITE_P(Samples, Finding, testing::ValuesIn(samples()),
 
 TEST(FindingSamples, CoverEveryKindButRecordsOfGigabytes)
 {
-    std::set<DrawingFinding> covered{DrawingFinding::RecordTooLong};
+    std::set<DrawingFinding> covered{DrawingFinding::RecordTooLong}; // see long_record_test.cpp
     for (const FindingCase& row : samples())
         covered.insert(row.kind);
     for (int number = 1; *drawingFindingSentence(static_cast<DrawingFinding>(number)); ++number)
