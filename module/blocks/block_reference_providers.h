@@ -119,8 +119,10 @@ class KdDbBlockReference_Extension : public KdDbEntity_Extension
 class KdDbMInsertBlock_Extension : public KdDbBlockReference_Extension
 {
   public:
+    /// Any reference has the grid listed behind its own keys; nothing else has anything listed.
     int PropertyCount(const KdDbEntity* entity, KdArray<KdString>& names,
                       KdArray<bool>& flags) override;
+    /// Answers for multiple inserts alone.
     int PropertyValueGet(const KdDbEntity* entity, KdString name, ResBuf*& result,
                          bool asDisplayText, bool withChoices) override;
 };

@@ -13,17 +13,13 @@ constexpr PropertyRow kRows[] = {
 };
 // clang-format on
 
-bool isMInsert(const KdDbEntity* entity)
-{
-    return entity && entity->isKindOf(KdDbMInsertBlock::desc());
-}
-
 } // namespace
 
 int KdDbMInsertBlock_Extension::PropertyCount(const KdDbEntity* entity, KdArray<KdString>& names,
                                               KdArray<bool>& flags)
 {
-    if (!isMInsert(entity))
+    // The grid's keys go with any reference; only its values need a grid.
+    if (!entity || !entity->isKindOf(KdDbBlockReference::desc()))
         return 0;
     const int status = KdDbBlockReference_Extension::PropertyCount(entity, names, flags);
     listRows(kRows, entity, names, flags);
@@ -34,7 +30,7 @@ int KdDbMInsertBlock_Extension::PropertyValueGet(const KdDbEntity* entity, KdStr
                                                  ResBuf*& result, bool asDisplayText,
                                                  bool withChoices)
 {
-    if (!isMInsert(entity))
+    if (!entity || !entity->isKindOf(KdDbMInsertBlock::desc()))
         return 0;
     if (const PropertyRow* row = findRow(kRows, name))
         return answerRow(*row, {*entity, *result, asDisplayText, withChoices});
