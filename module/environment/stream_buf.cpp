@@ -38,7 +38,7 @@ void KwStreamBuf::rewind()
 
 void KwStreamBuf::getBytes(unsigned char* buffer, unsigned int count)
 {
-    if (count > bytesLeft(*this))
+    if (tell() > length() || count > bytesLeft(*this))
         fail(L"Out of stream buffer!");
     rawRead(buffer, count);
 }

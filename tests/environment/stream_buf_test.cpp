@@ -108,6 +108,15 @@ TEST(StreamBuf, RecordsAndThrowsWhenMoreIsAskedFor)
     EXPECT_THAT(recorder.messages, ElementsAre(L"Out of stream buffer!", L"Out of stream buffer!"));
 }
 
+TEST(StreamBuf, RecordsAndThrowsBehindItsEndEvenForNoBytes)
+{
+    const Recorder recorder;
+    MemoryStream stream({1, 2, 3});
+    stream.seek(4, KwStreamBuf::kFromStart);
+    EXPECT_EQ(complaintOf(stream, 0), L"Out of stream buffer!");
+    EXPECT_THAT(recorder.messages, ElementsAre(L"Out of stream buffer!"));
+}
+
 TEST(StreamBuf, ThrowsWithoutARecorderAsWell)
 {
     MemoryStream stream;
