@@ -175,8 +175,10 @@ bool SystemPaths::SaveToRegistry() const
 
 bool SystemPaths::LoadKey(HKEY key, Text name, Text& value)
 {
+    unsigned kind = 0;
     Text loaded;
-    if (KwLoadKey(key, name, loaded) != ERROR_SUCCESS)
+    if (RegQueryValueExW(key, name, nullptr, &kind, nullptr, nullptr) != ERROR_SUCCESS ||
+        kind != REG_SZ || KwLoadKey(key, name, loaded) != ERROR_SUCCESS)
         return false;
     value = loaded;
     return true;

@@ -54,7 +54,7 @@ class KW_EXPORT SystemPaths
     /// Writes all values that are kept there. False if one could not be written.
     bool SaveToRegistry() const;
 
-    /// Reads one text value; false, `value` untouched, if there is none.
+    /// Reads one text value; false, `value` untouched, if there is none or it is no text.
     static bool LoadKey(HKEY key, CStdStr<wchar_t> name, CStdStr<wchar_t>& value);
     static bool SaveKey(HKEY key, CStdStr<wchar_t> name, CStdStr<wchar_t> value);
 

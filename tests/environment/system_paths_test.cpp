@@ -100,6 +100,29 @@ TEST_F(SystemPathsTest, StayWhereTheProfileHasNothing)
     EXPECT_FALSE(SystemPaths::SaveKey(nullptr, L"CurVer", L"1"));
 }
 
+TEST_F(SystemPathsTest, StayWhereTheProfileHasNoText)
+{
+    SystemPaths().SaveToRegistry();
+    PreferenceKey key(HKEY_CURRENT_USER, L"General", true);
+    ASSERT_EQ(key.SetDWORDValue(L"KWDRAWHELP", 65), ERROR_SUCCESS);
+    CStdStr<wchar_t> value = L"before";
+    EXPECT_FALSE(SystemPaths::LoadKey(key, L"KWDRAWHELP", value));
+    EXPECT_EQ(value, L"before");
+    SystemPaths paths;
+    paths.set(SystemPaths::kHelp, L"/help");
+    paths.LoadFromRegistry();
+    EXPECT_EQ(paths.get(SystemPaths::kHelp), L"/help");
+}
+
+TEST_F(SystemPathsTest, TakeEmptyTexts)
+{
+    PreferenceKey key(HKEY_CURRENT_USER, L"General", true);
+    ASSERT_EQ(key.SetStringValue(L"KWDRAWHELP", L""), ERROR_SUCCESS);
+    CStdStr<wchar_t> value = L"before";
+    EXPECT_TRUE(SystemPaths::LoadKey(key, L"KWDRAWHELP", value));
+    EXPECT_TRUE(value.IsEmpty());
+}
+
 TEST_F(SystemPathsTest, TellWhenTheyCanNotBeKept)
 {
     write(home / "config", "a file where the folder should be");
