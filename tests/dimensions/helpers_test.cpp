@@ -82,6 +82,19 @@ TEST(ExtendedDataOfDimensions, MayEndAtAnyPlace)
     EXPECT_EQ(provider.findDimXdataValue(pairs({2, 1, 3}).get(), 1), nullptr);
 }
 
+/// The kind of the records is of no account.
+TEST(ExtendedDataOfDimensions, IsSearchedByKeysOfAnyKind)
+{
+    KdDbDimension_Extension provider;
+    for (const int kind : {70, 1040, 1071, 5003}) {
+        const ResbufChain list = pairs({7, 5, 392, 9});
+        resbuf* key = list->rbnext->rbnext->rbnext;
+        key->restype = static_cast<short>(kind);
+        key->rbnext->restype = key->restype;
+        EXPECT_EQ(provider.findDimXdataValue(list.get(), 392), key->rbnext) << kind;
+    }
+}
+
 TEST(ToleranceAlignment, IsThatBeforeSignsWithoutAStyleOrItsData)
 {
     KdDbDimension_Extension provider;

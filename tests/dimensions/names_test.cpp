@@ -224,4 +224,14 @@ TEST_F(NamesOfDimensions, LeaveTheAlignmentOfTolerancesEmptyWithoutAStyle)
     EXPECT_EQ(answerOfAll(key, false, true).chain, expected);
 }
 
+TEST_F(NamesOfDimensions, AlignTolerancesBySignsWhereTheStyleIsSomethingElse)
+{
+    changeAs<KdDbAlignedDimension>(DimensionKind::Aligned, [&](auto& members) {
+        members.dimension.style = block(L"NO STYLE");
+    });
+    const Answer given = answerOfAll(L"Tolerances:Tolerance alignment");
+    EXPECT_EQ(given.status, 1);
+    EXPECT_EQ(given.chain, Words{"5005 Align plus/minus sign"});
+}
+
 } // namespace
