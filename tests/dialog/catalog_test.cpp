@@ -264,6 +264,17 @@ TEST_F(Catalog, SplitsAPointIntoItsCoordinates)
     EXPECT_EQ(catalog.GetValue(kToy, L"Start"), nullptr);
 }
 
+TEST_F(Catalog, CopesWithAKeyThatIsListedTwice)
+{
+    const ToyProperty twice{L"Geometry:End", point(1.0, 2.0, 3.0)};
+    enter({twice, {L"Geometry:Radius", real(5.0)}, twice});
+    EXPECT_EQ(std::ranges::count(catalog.TypeProperties.at(kToy), L"End Y"), 2);
+    EXPECT_EQ(catalog.TypeKeys.at(kToy).length(), 7);
+    EXPECT_EQ(valueOf(L"End Y").text, L"2.0000");
+    EXPECT_EQ(valueOf(L"Radius").text, L"5.0000");
+    EXPECT_EQ(catalog.PropertyKeys.at(L"TOY:End Z"), L"Geometry:End Z");
+}
+
 TEST_F(Catalog, OffersNoListForPointsThatHaveSeveral)
 {
     enter({{L"Geometry:Vertex", point(1.0, 2.0, 3.0), {point(4.0, 5.0, 6.0)}}});

@@ -80,6 +80,25 @@ TEST_F(Chain, ListsThePropertiesOfTheTypeWithoutTabs)
     EXPECT_EQ(dialog->TypeProperties.at(kToy)[0], L"\t\tTabs");
 }
 
+TEST_F(Chain, GoesOnFromEitherRowOfAPropertyThatIsListedTwice)
+{
+    const ToyProperty twice{L"Geometry:End", point(1.0, 2.0, 3.0)};
+    const Entities toys = {addToy({twice, {L"Geometry:Radius", real(5.0)}, twice})};
+    const QStringList rows{"End X", "End Y", "End Z", "Radius", "End X", "End Y", "End Z"};
+    use(toys, [&](Person& person) {
+        EXPECT_EQ(person.properties(), rows);
+        for (const int row : {1, 5}) {
+            person.list().setCurrentRow(row);
+            EXPECT_EQ(person.property(), "End Y");
+            EXPECT_EQ(person.rows(kOperator).size(), 5);
+        }
+        person.type("1.5");
+        person.click("IDOK");
+    });
+    EXPECT_EQ(property().propertyKey, L"Geometry:End");
+    EXPECT_EQ(property().axis, 2);
+}
+
 struct OperatorRow
 {
     const char* name;
