@@ -91,6 +91,8 @@ struct DrawingSource
     std::unordered_map<std::string_view, KdDbObjectId> blocks;
     std::unordered_map<KdDbObjectId, KdDbObjectId> firstViewports;
     BodyDataIndex bodies;
+    /// By the first column of a text the others, where they are entities of their own.
+    std::unordered_map<KdDbObjectId, std::vector<KdDbObjectId>> textColumns;
 };
 
 } // namespace dxf

@@ -46,6 +46,8 @@ EntityIndex::EntityIndex(DrawingSource& source, ObjectMaker& maker, BlockIndex& 
       m_report(report),
       m_classes(KdDbEntity::desc(), KdDbProxyEntity::desc()),
       m_layers(source, maker),
+      m_columns(source, maker),
+      m_textClass(KdDbMText::desc()),
       m_vertexClass(KdDbVertex::desc()),
       m_attributeClass(KdDbAttribute::desc()),
       m_sequenceEndClass(KdDbSequenceEnd::desc()),
@@ -146,6 +148,8 @@ void EntityIndex::readEntity(RecordCursor& cursor)
         static_cast<KdDbEntity*>(m_maker.make(entry.decide(head.hints), head.handle, range));
     entity->setLayer(m_layers.find(head.layer, head.offset, head.handle.value));
     place(*entity, head, entry.hasParts());
+    if (entity->isA() == m_textClass)
+        m_columns.note(*entity, range);
 }
 
 void EntityIndex::place(KdDbEntity& entity, const Head& head, bool hasParts)

@@ -5,6 +5,7 @@
 
 #include "block_index.h"
 #include "class_table.h"
+#include "text_columns.h"
 
 namespace dxf {
 
@@ -44,6 +45,8 @@ class EntityIndex
     void readEntity(RecordCursor& cursor);
     /// What follows belongs to no entity before: called between blocks and sections.
     void forgetParent() { m_parent = nullptr; }
+    /// Joins texts that stand in columns; called when all handles are known.
+    void joinColumns() { m_report.entities -= m_columns.tie(); }
 
   private:
     struct Head;
@@ -60,8 +63,10 @@ class EntityIndex
     ReadReport& m_report;
     ClassTable m_classes;
     LayerNames m_layers;
+    TextColumns m_columns;
     KdDbEntity* m_parent = nullptr; ///< the entity whose vertices or attributes may follow
     // Looked up once: a class descriptor is asked for with every entity.
+    const KdRxClass* m_textClass;
     const KdRxClass* m_vertexClass;
     const KdRxClass* m_attributeClass;
     const KdRxClass* m_sequenceEndClass;

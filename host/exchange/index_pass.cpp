@@ -162,6 +162,7 @@ void IndexPass::finish()
     readDefinitions(true);
     m_maker.builder().finish();
     readDefinitions(false);
+    m_entities.joinColumns();
 }
 
 void IndexPass::readDefinitions(bool blocks)

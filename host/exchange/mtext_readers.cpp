@@ -86,6 +86,24 @@ void takeOldColumns(const KdDbObject& object, MTextData& text)
     }
 }
 
+/// Appends the letters of columns that are entities of their own.
+void takeColumnTexts(RecordReader& reader, MTextData& text)
+{
+    const auto& all = reader.source().textColumns;
+    const auto columns = all.find(reader.object().objectId());
+    if (columns == all.end())
+        return;
+    for (const KdDbObjectId id : columns->second) {
+        KdDbMText* column = nullptr;
+        if (kddbOpenObject(column, id, KdDb::kForRead, true) != eOk)
+            continue;
+        KdString contents;
+        column->contents(contents);
+        column->close();
+        text.contents = text.contents + contents;
+    }
+}
+
 void readMText(RecordReader& reader, MTextMembers& text)
 {
     MTextReader parts(text);
@@ -98,6 +116,7 @@ void readMText(RecordReader& reader, MTextMembers& text)
     }
     parts.finish(reader);
     takeOldColumns(reader.object(), text);
+    takeColumnTexts(reader, text);
 }
 
 constexpr MemberReaderRow kRows[] = {

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "group_values.h"
+#include "text_columns.h"
 
 namespace dxf {
 namespace {
@@ -299,7 +300,9 @@ void NeededRecords::follow(std::size_t index)
         record.section == SectionKind::Entities || record.section == SectionKind::Blocks;
     bool inApplicationGroup = false;
     bool inFirstPart = true;
+    ColumnNames columns;
     while (groups.next(group)) {
+        const bool isColumn = record.name == "MTEXT" && columns.take(group);
         if (group.code == 102)
             inApplicationGroup =
                 group.text.starts_with('{') && (inFirstPart || record.name != "XRECORD");
@@ -307,7 +310,8 @@ void NeededRecords::follow(std::size_t index)
             inFirstPart = false;
         const bool isOwner = group.code == 330 && inFirstPart;
         if (isHandleCode(group.code) && !isOwner && !inApplicationGroup)
-            followHandle(looseHandleOf(group), isEntity && isHardReference(group.code));
+            followHandle(looseHandleOf(group),
+                         isEntity && (isColumn || isHardReference(group.code)));
         else if (!isFrame && mayNameBlock(group.code, record.name))
             keepBlockNamed(group.text);
     }

@@ -11,8 +11,6 @@ handle: texts, places, sizes, angles, modes, styles, vertices. Differences that 
 - Some texts hold line feeds for the code that ends a paragraph, which ezdxf replaces at times.
 - ezdxf drops styles that are not defined when it has to recover a file, and makes objects of its own
   with handles that the file only refers to.
-- ezdxf joins the columns of a text, which up to R2007 are entities of their own, into one, so there
-  only the beginning is compared.
 - Some old drawings say a code page and hold UTF-8. ezdxf trusts the page, we trust the bytes.
 - Handles that occur twice, or are 0, are replaced by either reader as it likes; entities older than
   R12 have none.
@@ -112,7 +110,8 @@ def check_attribute(entity, row, encoding):
 def check_mtext(entity, row, encoding):
     dxf = entity.dxf
     if entity.has_columns and entity.columns.linked_columns:
-        yield "contents", without_escapes(entity.text).startswith(row["contents"])
+        whole = entity.all_columns_raw_content()
+        yield "contents", same_text(whole, row["contents"], encoding)
     else:
         yield "contents", same_text(entity.text, row["contents"], encoding)
         if not re.search(r"\\[SNUX]|%%|\\\W|\^|\t", entity.text) and entity.text.isascii():

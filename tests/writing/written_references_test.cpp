@@ -193,4 +193,23 @@ TEST(WrittenLayouts, ForgetALastActiveViewportThatIsLeftOut)
     EXPECT_TRUE(written.holds("330\n11\n"));
 }
 
+TEST(WrittenTexts, TakeTheirColumnsAlong)
+{
+    const auto text = [](const char* handle, const char* letters) {
+        return Groups{{0, "MTEXT"}, {5, handle},        {330, "10"}, {100, "AcDbEntity"},
+                      {8, "0"},     {100, "AcDbMText"}, {1, letters}};
+    };
+    const Groups columns{{1001, "ACAD"},
+                         {1000, "ACAD_MTEXT_COLUMNS_BEGIN"},
+                         {1005, "31"},
+                         {1000, "ACAD_MTEXT_COLUMNS_END"},
+                         {1005, "32"}};
+    const Groups entities =
+        text("30", "One") + columns + text("31", "Two") + text("32", "Not one of them");
+    const Written written = writeOf(content(entities, dictionary("C", "0", {})), {0x30});
+    EXPECT_TRUE(written.holds("Two"));
+    EXPECT_FALSE(written.holds("Not one of them"));
+    EXPECT_EQ(written.drawing.entities().size(), 1u);
+}
+
 } // namespace
