@@ -39,12 +39,15 @@ KdDbObjectId arrowBlock(KdDbDatabase& database, const KdString& name)
     return block;
 }
 
-/// One choice of units stands for what later are two.
+/// One choice of units stands for what later are two. A number that means none counts for nothing,
+/// as it does in the header.
 void setOldUnit(KdDbDimValues& values, std::int32_t unit)
 {
     constexpr std::int32_t kUnstackedFractions = 2;
     constexpr std::int32_t kOfTheDesktop = 8;
     if (values.has(KdDbDimVar::dimlunit)) // written by a later version, which knows better
+        return;
+    if (unit < 1 || unit > kOfTheDesktop)
         return;
     if (unit == 6 || unit == 7) {
         values.set(KdDbDimVar::dimlunit, unit - 2);
@@ -58,7 +61,8 @@ void setOldUnit(KdDbDimValues& values, std::int32_t unit)
 void setOldFit(KdDbDimValues& values, std::int32_t fit)
 {
     constexpr std::int32_t kBestFit = 3;
-    if (values.has(KdDbDimVar::dimatfit))
+    constexpr std::int32_t kFree = 5;
+    if (values.has(KdDbDimVar::dimatfit) || fit < 0 || fit > kFree)
         return;
     values.set(KdDbDimVar::dimatfit, fit > kBestFit ? kBestFit : fit);
     if (fit > kBestFit)

@@ -86,6 +86,19 @@ TEST(DimensionStyleRecord, NamesItsArrowsInOldDrawings)
     }
 }
 
+TEST(DimensionStyleRecord, KeepsItsDefaultsWhereOldChoicesMeanNothing)
+{
+    for (const char* absurd : {"-1", "9", "99"}) {
+        const ReadDrawing drawn = readStyle("AC1014", {{270, absurd}, {287, absurd}});
+        const auto* style = drawn.record<KdDbDimStyleTable>(L"S");
+        ASSERT_TRUE(style);
+        EXPECT_EQ(style->dimlunit(), 2) << absurd;
+        EXPECT_EQ(style->dimfrac(), 0) << absurd;
+        EXPECT_EQ(style->dimatfit(), 3) << absurd;
+        EXPECT_EQ(style->dimtmove(), 0) << absurd;
+    }
+}
+
 struct OldUnit
 {
     const char* stated;
