@@ -9,7 +9,6 @@
 #include "needed_records.h"
 #include "outline.h"
 #include "reference_cleaner.h"
-#include "safe_file.h"
 
 namespace {
 
@@ -149,7 +148,8 @@ KdErrorStatus write(const KdDbDatabase& database, std::span<const KdDbObjectId> 
     addSheetViewports(database, places);
     SafeFile file;
     const DrawingSource& drawing = source->drawing();
-    KdErrorStatus status = file.open(target, options.overwrite, drawing.bytes.file(), error);
+    KdErrorStatus status = file.open(
+        target, {.overwrite = options.overwrite, .untouchable = drawing.bytes.file()}, error);
     if (status != eOk)
         return status;
     SelectionWriter(drawing, places).write(file);

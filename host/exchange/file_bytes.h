@@ -8,18 +8,10 @@
 #include <string_view>
 
 #include <runtime/kd_string.h>
+#include <runtime/safe_file.h>
 #include <runtime/status.h>
 
 namespace dxf {
-
-/// Tells files apart, whatever their names.
-struct FileIdentity
-{
-    std::uint64_t device = 0;
-    std::uint64_t number = 0; ///< 0: no file
-
-    bool operator==(const FileIdentity&) const = default;
-};
 
 /// A file read into memory whole. A mapped file would end the process when another one cuts it
 /// short, and would give other members on each first use when it changes; a copy does neither, and

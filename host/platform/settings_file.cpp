@@ -5,9 +5,10 @@
 #include <cstdlib>
 
 #include <runtime/kd_string.h>
+#include <runtime/safe_file.h>
 #include <runtime/utf8.h>
 
-#include "file_replacement.h"
+#include "file_lock.h"
 #include "settings_text.h"
 
 namespace {
@@ -68,6 +69,15 @@ SettingsStatus statusOf(FileLock::Outcome outcome)
     default:
         return SettingsStatus::Unwritable;
     }
+}
+
+/// The caller holds the lock.
+bool replaceFile(const fs::path& path, std::string_view bytes)
+{
+    SafeFileRules rules{.overwrite = true, .ownerOnly = true, .beside = path};
+    rules.beside += ".new";
+    KdString error;
+    return kdWriteFile(path, bytes, rules, error) == eOk;
 }
 
 bool putAside(const fs::path& path)

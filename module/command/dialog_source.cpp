@@ -4,6 +4,7 @@
 
 #include <editor/command_line.h>
 
+#include <command/matching.h>
 #include <dialog/qselect_dialog.h>
 
 DialogSource::DialogSource() = default;
@@ -23,4 +24,29 @@ bool DialogSource::ask(const std::vector<KdDbEntity*>& drawingTypes,
         return false;
     choice = {m_dialog->GetDialogParameters(), m_dialog->pickedEntities()};
     return true;
+}
+
+std::optional<RememberedRequest> DialogSource::request() const
+{
+    const DialogParameters& parameters = *m_dialog->GetDialogParameters();
+    const PropertyParameters& property = parameters.propertyParameters;
+    const auto& value = m_dialog->typedValue();
+    if (!value)
+        return std::nullopt;
+    RememberedRequest request;
+    if (!isForAllTypes(parameters)) {
+        request.typeName = parameters.objectTypeName;
+        request.className = parameters.objectClassName;
+    }
+    request.propertyKey = property.propertyKey;
+    request.axis = property.axis;
+    request.kind = value->kind;
+    request.operatorText = property.operatorText;
+    request.valueText = value->text;
+    request.exclude = !parameters.include;
+    request.append = parameters.append;
+    request.fromSelection = !parameters.entireDrawing;
+    constexpr int kPickedInDialog = 0;
+    request.overPicked = request.fromSelection && parameters.selectionSource == kPickedInDialog;
+    return request;
 }

@@ -2,8 +2,10 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 
 #include <command/filter_source.h>
+#include <command/last_request.h>
 
 class CQSelectDialog;
 
@@ -19,6 +21,10 @@ class DialogSource : public FilterSource
     /// In a program without windows it says so on the command line and answers false.
     bool ask(const std::vector<KdDbEntity*>& drawingTypes,
              const std::vector<KdDbEntity*>& selectionTypes, FilterChoice& choice) override;
+
+    /// What was asked for, in words; none if there are no words for it. Only after an `ask` that
+    /// answered true.
+    std::optional<RememberedRequest> request() const;
 
   private:
     std::unique_ptr<CQSelectDialog> m_dialog;

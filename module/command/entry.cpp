@@ -1,5 +1,6 @@
 #include <command/entry.h>
 
+#include <command/last_request.h>
 #include <command/property_listing.h>
 #include <command/qselect_command.h>
 #include <command/registration.h>
@@ -17,6 +18,7 @@ void QSelectInit()
 
 void QSelectUnInit()
 {
+    rememberRequest(std::nullopt);
     delXs();
     deleteKdRxClass(KdDbEntity_Extension::desc());
     deleteKdRxClass(KdDbEntityPE::desc());
@@ -80,4 +82,9 @@ double QSelectTolerance()
 {
     constexpr double kWithoutPrecision = 1.0e-8;
     return CompareDynamicEpsilon(kWithoutPrecision);
+}
+
+void QSelectLastRequest(quick_select::RequestVisitor visitor, void* context)
+{
+    visitLastRequest(visitor, context);
 }

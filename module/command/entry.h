@@ -35,4 +35,5 @@ KW_EXPORT void QSelectListProperties(KdDbObjectId entity, const wchar_t* onlyKey
 KW_EXPORT void QSelectListOperators(int restype, quick_select::OperatorVisitor visitor,
                                     void* context);
 KW_EXPORT double QSelectTolerance();
+KW_EXPORT void QSelectLastRequest(quick_select::RequestVisitor visitor, void* context);
 }

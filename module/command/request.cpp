@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <optional>
 
+#include <command/last_request.h>
 #include <command/selection_run.h>
 #include <values/compare.h>
 #include <values/filter_value.h>
@@ -105,5 +106,7 @@ Result runRequest(const Request& request, const long* ss)
         tolerance.emplace(*request.tolerance);
     Result result{Outcome::Done, 0};
     result.outcome = outcomeOf(runSelection(ss, filter, result.matches));
+    if (result.outcome == Outcome::Done)
+        rememberRequest(RememberedRequest::of(request));
     return result;
 }

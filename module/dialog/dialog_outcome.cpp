@@ -86,6 +86,30 @@ KdString linetypeText(const CKdUiLineTypeComboBox& combo)
     return name;
 }
 
+/// A colour as it is typed, if reading that gives the same colour.
+std::optional<KdString> typedColor(const KdCmColor& color)
+{
+    std::wstring text;
+    switch (color.colorMethod()) {
+    case KdCmColor::kByLayer:
+        text = L"ByLayer";
+        break;
+    case KdCmColor::kByBlock:
+        text = L"ByBlock";
+        break;
+    case KdCmColor::kByACI:
+        text = std::to_wstring(color.colorIndex());
+        break;
+    default:
+        text = std::to_wstring(color.red()) + L',' + std::to_wstring(color.green()) + L',' +
+               std::to_wstring(color.blue());
+    }
+    FilterValue read = readFilterValue(ResBuf::kColor, 0, KdString(text));
+    const bool isSame = read.record && read.record->getColor().color() == color.color();
+    ResBuf::relRb(read.record);
+    return isSame ? std::optional<KdString>(text) : std::nullopt;
+}
+
 KdString rowText(const CComboBox& combo)
 {
     return KdString(combo.GetCurrentText().c_str());
@@ -99,6 +123,7 @@ void CQSelectDialog::OnOK()
     ResBuf::relRb(m_parameters.filter);
     m_filterTail = nullptr;
     m_parameters.propertyParameters = {};
+    m_typedValue = TypedValue{};
     if (!control<CComboBox>(kApplyTo) || !control<CComboBox>(kObjectType))
         return;
     readFlags();
@@ -150,10 +175,12 @@ void CQSelectDialog::readProperty(int row)
 bool CQSelectDialog::readFilter()
 {
     const std::optional<Operators> op = currentOperator();
+    const Value* value = currentValue();
+    m_typedValue->kind = value ? value->type : ResBuf::kNone;
     if (!op || *op == Operators::SelectAll)
         return true;
+    m_typedValue.reset();
     m_parameters.propertyParameters.operatorText = operatorText(*op);
-    const Value* value = currentValue();
     const bool isListed =
         PropertyKeys.contains(compositeKey(m_parameters.objectTypeName, currentProperty()));
     return !value || !isListed || readValue(*value, *op);
@@ -162,10 +189,12 @@ bool CQSelectDialog::readFilter()
 bool CQSelectDialog::readValue(const Value& value, Operators op)
 {
     FilterValue filter;
+    std::optional<KdString> text;
     if (value.type == ResBuf::kColor) {
         filter = filterOfColor(m_colorCombo.GetCurrentItemColor());
+        text = typedColor(m_colorCombo.GetCurrentItemColor());
     } else {
-        const std::optional<KdString> text = valueText(value, op);
+        text = valueText(value, op);
         if (text)
             filter = readFilterValue(value.type, m_parameters.propertyParameters.axis, *text);
         if (!text || (filter.text == FilterText::Empty && needsText(value.type))) {
@@ -178,7 +207,11 @@ bool CQSelectDialog::readValue(const Value& value, Operators op)
         return false;
     }
     // What can't be read counts as the value that its reader falls back on.
+    if (filter.text == FilterText::Unreadable)
+        text = fallbackText(value.type);
     if (filter.record) {
+        if (text)
+            m_typedValue = TypedValue{value.type, *text};
         AddFilter(filter.record);
         m_parameters.propertyParameters.valueType = filter.valueType;
     }

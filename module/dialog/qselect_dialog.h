@@ -37,6 +37,14 @@ class CQSelectDialog : public CKdUiDialog, public TypeCatalog
     /// What was asked for; lives as long as the dialog.
     const DialogParameters* GetDialogParameters() const { return &m_parameters; }
     PropertyParameters GetPropertyParameter() const { return m_parameters.propertyParameters; }
+    /// The value that was asked for as a text of its kind, from which the same filter can be read.
+    struct TypedValue
+    {
+        int kind = ResBuf::kNone;
+        KdString text;
+    };
+    /// Empty if all values are asked for; none if no text gives the same filter.
+    const std::optional<TypedValue>& typedValue() const { return m_typedValue; }
     /// What was picked, otherwise the second list of the constructor.
     const std::vector<KdDbEntity*>& pickedEntities() const { return m_pickedEntities; }
 
@@ -138,4 +146,5 @@ class CQSelectDialog : public CKdUiDialog, public TypeCatalog
 
     DialogParameters m_parameters;
     ResBuf* m_filterTail = nullptr;
+    std::optional<TypedValue> m_typedValue;
 };

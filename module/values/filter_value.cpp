@@ -279,6 +279,23 @@ FilterValue readFilterValue(int kind, int axis, const KdString& text)
     return {FilterText::Unreadable};
 }
 
+std::optional<KdString> fallbackText(int kind)
+{
+    switch (kind) {
+    case ResBuf::kReal:
+    case ResBuf::kLinetypeScale:
+    case ResBuf::kPoint2d:
+    case ResBuf::kPoint3d:
+        return KdString(L"1");
+    case ResBuf::kAngle:
+        return KdString(L"1r");
+    case ResBuf::kBool:
+        return KdString(__ResourceString(78057, L"false"));
+    default:
+        return std::nullopt;
+    }
+}
+
 FilterValue filterOfColor(const KdCmColor& color)
 {
     ResBuf* record = ResBuf::newRb(ResBuf::kColor);

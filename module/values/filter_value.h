@@ -1,6 +1,8 @@
 /// From the text that a person types to the value that a run compares with.
 #pragma once
 
+#include <optional>
+
 #include <database/color.h>
 #include <runtime/kd_string.h>
 
@@ -30,6 +32,9 @@ struct FilterValue
 /// @param kind  restype of the property's value
 /// @param axis  1 X, 2 Y, 3 Z: the coordinate that the text is, for the point kinds
 FilterValue readFilterValue(int kind, int axis, const KdString& text);
+
+/// A text that reads as the record beside `Unreadable`; none for kinds that have no such text.
+std::optional<KdString> fallbackText(int kind);
 
 /// The value for a colour that was picked and not typed.
 FilterValue filterOfColor(const KdCmColor& color);

@@ -35,7 +35,8 @@ bool Module::findAll()
            find("selectCmdEx", selectCmdEx) && find("QSelectRun", run) &&
            find("QSelectListTypes", listTypes) && find("QSelectListEntities", listEntities) &&
            find("QSelectListProperties", listProperties) &&
-           find("QSelectListOperators", listOperators) && find("QSelectTolerance", tolerance);
+           find("QSelectListOperators", listOperators) && find("QSelectTolerance", tolerance) &&
+           find("QSelectLastRequest", lastRequest);
 }
 
 void Module::unload()

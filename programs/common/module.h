@@ -27,6 +27,7 @@ class Module
     quick_select::QSelectListPropertiesFunction* listProperties = nullptr;
     quick_select::QSelectListOperatorsFunction* listOperators = nullptr;
     quick_select::QSelectToleranceFunction* tolerance = nullptr;
+    quick_select::QSelectLastRequestFunction* lastRequest = nullptr;
 
   private:
     template <class Function>

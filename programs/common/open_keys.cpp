@@ -24,19 +24,16 @@ std::wstring category(unsigned int id)
 class Collector
 {
   public:
-    Collector(const Module& module, const TypeEntry& type, std::vector<PropertyEntry>& properties)
-        : m_module(module), m_type(type), m_properties(properties)
+    Collector(const Module& module, std::vector<PropertyEntry>& properties)
+        : m_module(module), m_properties(properties)
     {
     }
 
-    static void visit(void* context, const quick_select::Entity& entity)
+    void take(KdDbObjectId id)
     {
-        auto& self = *static_cast<Collector*>(context);
-        const bool isOfType = self.m_type.className == entity.className &&
-                              self.m_type.displayName == entity.displayName;
-        const OpenForRead<KdDbBlockReference> reference(isOfType ? entity.id : KdDbObjectId());
+        const OpenForRead<KdDbBlockReference> reference(id);
         if (reference)
-            self.take(*reference);
+            take(*reference);
     }
 
   private:
@@ -68,12 +65,24 @@ class Collector
     }
 
     const Module& m_module;
-    const TypeEntry& m_type;
     std::vector<PropertyEntry>& m_properties;
     const std::wstring m_attributes = category(kAttributeCategory) + L":";
     const std::wstring m_dynamics = category(kDynamicCategory) + L":";
     std::set<std::wstring> m_seen;
 };
+
+struct TypeSearch
+{
+    const TypeEntry& type;
+    Collector& collector;
+};
+
+void takeIfOfType(void* context, const quick_select::Entity& entity)
+{
+    auto& search = *static_cast<TypeSearch*>(context);
+    if (search.type.className == entity.className && search.type.displayName == entity.displayName)
+        search.collector.take(entity.id);
+}
 
 } // namespace
 
@@ -82,6 +91,14 @@ void appendOpenKeys(const Module& module, const TypeEntry& type,
 {
     if (!type.example.isKindOf(KdDbBlockReference::desc()))
         return;
-    Collector collector(module, type, properties);
-    module.listEntities(nullptr, Collector::visit, &collector);
+    Collector collector(module, properties);
+    TypeSearch search{type, collector};
+    module.listEntities(nullptr, takeIfOfType, &search);
+}
+
+void appendOpenKeysOf(const Module& module, KdDbObjectId entity,
+                      std::vector<PropertyEntry>& properties)
+{
+    if (entity.isKindOf(KdDbBlockReference::desc()))
+        Collector(module, properties).take(entity);
 }

@@ -9,3 +9,6 @@
 /// space, in the order in which they are met. Nothing for a type that is no block reference.
 void appendOpenKeys(const Module& module, const TypeEntry& type,
                     std::vector<PropertyEntry>& properties);
+/// Appends the ones that an entity has; nothing for one that is no block reference.
+void appendOpenKeysOf(const Module& module, KdDbObjectId entity,
+                      std::vector<PropertyEntry>& properties);

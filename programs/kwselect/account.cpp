@@ -5,13 +5,12 @@
 #include <cstdint>
 #include <optional>
 
+#include <common/entity_columns.h>
+#include <common/value_text.h>
 #include <database/database.h>
 #include <editor/current_space.h>
 #include <editor/system_variables.h>
 #include <runtime/utf8.h>
-
-#include "entity_columns.h"
-#include "value_text.h"
 
 namespace {
 

@@ -3,13 +3,13 @@
 #include <iostream>
 #include <memory>
 
+#include <common/handle_text.h>
 #include <database/database.h>
 #include <nlohmann/json.hpp>
 #include <runtime/utf8.h>
 
 #include "drawing.h"
 #include "exit_status.h"
-#include "handle_text.h"
 
 namespace {
 

@@ -1,9 +1,8 @@
 #include "dump.h"
 
+#include <common/handle_text.h>
+#include <common/value_text.h>
 #include <runtime/utf8.h>
-
-#include "handle_text.h"
-#include "value_text.h"
 
 namespace {
 

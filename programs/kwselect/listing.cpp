@@ -1,8 +1,8 @@
 #include "listing.h"
 
+#include <common/entity_columns.h>
 #include <runtime/utf8.h>
 
-#include "entity_columns.h"
 #include "value_tally.h"
 
 namespace {

@@ -5,9 +5,8 @@
 #include <string>
 #include <vector>
 
+#include <common/row_format.h>
 #include <common/selection_steps.h>
-
-#include "row_format.h"
 
 /// What is asked for. Texts are UTF-8, as the shell gave them.
 struct Options

@@ -2,10 +2,10 @@
 
 #include <utility>
 
+#include <common/entity_columns.h>
 #include <common/filter_file.h>
 #include <runtime/utf8.h>
 
-#include "entity_columns.h"
 #include "inputs.h"
 
 namespace {

@@ -4,13 +4,13 @@
 #include <iostream>
 #include <system_error>
 
+#include <common/entity_columns.h>
 #include <exchange/drawing_writer.h>
 #include <runtime/utf8.h>
 
 #include "account.h"
 #include "drawing.h"
 #include "dump.h"
-#include "entity_columns.h"
 #include "listing.h"
 #include "spaces.h"
 #include "value_tally.h"

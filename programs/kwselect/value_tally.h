@@ -5,7 +5,7 @@
 #include <map>
 #include <utility>
 
-#include "row_format.h"
+#include <common/row_format.h>
 
 class ValueTally
 {

@@ -106,6 +106,26 @@ TEST_F(Lifecycle, RunsFromLoadingToUnloadingTwiceInOneProcess)
     }
 }
 
+TEST_F(Lifecycle, TellsOfTheLastRunByItsExportedName)
+{
+    const LoadedModule module;
+    const auto tell = module.find<quick_select::QSelectLastRequestFunction>("QSelectLastRequest");
+    ASSERT_NE(tell, nullptr);
+    module.find<quick_select::QSelectInitFunction>("QSelectInit")();
+    int visits[2] = {}; // without and with a request
+    const auto count = [](void* context, const quick_select::PastRequest* past) {
+        ++static_cast<int*>(context)[past ? 1 : 0];
+    };
+    tell(count, visits);
+    quick_select::Result result{};
+    module.find<quick_select::QSelectRunFunction>("QSelectRun")({}, nullptr, result);
+    tell(count, visits);
+    module.find<quick_select::QSelectUnInitFunction>("QSelectUnInit")();
+    tell(count, visits);
+    EXPECT_EQ(visits[0], 2);
+    EXPECT_EQ(visits[1], 1);
+}
+
 TEST_F(Lifecycle, LeavesNothingOfTheModuleInMemory)
 {
     liveOnce();

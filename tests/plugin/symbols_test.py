@@ -22,6 +22,7 @@ EXPORTED = {
     "QSelectListProperties",
     "QSelectListOperators",
     "QSelectTolerance",
+    "QSelectLastRequest",
     # globals
     "gComboValues",
     "theArxDLL",

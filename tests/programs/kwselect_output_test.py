@@ -157,7 +157,7 @@ class Files(unittest.TestCase):
     def test_in_a_folder_that_is_not_there_are_told(self):
         run = Run(support.plan(), "Circle", "--output", self.folder / "none" / "out.csv")
         self.assertEqual(run.status, CANNOT_WORK)
-        self.assertIn("No such file or directory", run.errors)
+        self.assertIn("The folder does not exist.", run.errors)
 
     def test_are_left_out_when_the_drawing_can_not_be_read(self):
         run = Run(self.folder / "none.dxf", "Circle", "--output", self.file)

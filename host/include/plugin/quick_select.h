@@ -87,10 +87,20 @@ struct Result
     int matches; ///< as the count line tells it
 };
 
+/// What a run asked for, as `QSelectLastRequest` tells it. Its texts live as long as the visit.
+struct PastRequest
+{
+    /// Over the same objects and the same starting selection `QSelectRun` selects the same by it.
+    Request request;
+    /// The run was over objects that were picked in the dialog, which are no selection any more.
+    bool overPicked;
+};
+
 using TypeVisitor = void (*)(void* context, const Type& type);
 using EntityVisitor = void (*)(void* context, const Entity& entity);
 using PropertyVisitor = void (*)(void* context, const Property& property);
 using OperatorVisitor = void (*)(void* context, const wchar_t* operatorText);
+using RequestVisitor = void (*)(void* context, const PastRequest* request);
 
 // The exported functions. A host declares a pointer of the type and looks the name up.
 
@@ -111,6 +121,10 @@ using QSelectListEntitiesFunction = void(long* selectionSet, EntityVisitor visit
 using QSelectListPropertiesFunction = void(KdDbObjectId entity, const wchar_t* onlyKey,
                                            bool withChoices, PropertyVisitor visitor,
                                            void* context);
+/// "QSelectLastRequest": the request of the last run that came to its end, by the dialog or by
+/// "QSelectRun". The visitor gets null if there was none, or if no text that a person could type
+/// stands for its value.
+using QSelectLastRequestFunction = void(RequestVisitor visitor, void* context);
 /// "QSelectTolerance": within what reals count as equal, by the drawing's linear precision.
 using QSelectToleranceFunction = double();
 /// "QSelectListOperators": the operators that values of a kind offer, in the dialog's order.

@@ -1,4 +1,4 @@
-#include "row_format.h"
+#include <common/row_format.h>
 
 #include <algorithm>
 #include <utility>

@@ -1,5 +1,6 @@
-#include "safe_file.h"
+#include <runtime/safe_file.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 
@@ -7,7 +8,6 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-namespace dxf {
 namespace {
 
 constexpr std::size_t kBufferSize = std::size_t{1} << 20;
@@ -39,6 +39,8 @@ KdErrorStatus fail(KdString& error, int number)
     return number == EEXIST ? eDuplicateKey : eFileAccessError;
 }
 
+constexpr unsigned kOwnerOnly = 0600;
+
 /// The rights that new files get.
 unsigned usualMode()
 {
@@ -57,6 +59,13 @@ std::filesystem::path resolved(const std::filesystem::path& target)
 
 } // namespace
 
+FileIdentity kdFileIdentity(const std::filesystem::path& path)
+{
+    struct stat status;
+    return stat(path.c_str(), &status) == 0 ? FileIdentity{status.st_dev, status.st_ino}
+                                            : FileIdentity{};
+}
+
 SafeFile::~SafeFile()
 {
     discard();
@@ -72,14 +81,14 @@ void SafeFile::discard()
     m_temporary.clear();
 }
 
-KdErrorStatus SafeFile::checkTarget(const FileIdentity& untouchable, KdString& error)
+KdErrorStatus SafeFile::checkTarget(const SafeFileRules& rules, KdString& error)
 {
     struct stat status;
     if (stat(m_target.c_str(), &status) != 0) {
-        m_mode = usualMode();
+        m_mode = rules.ownerOnly ? kOwnerOnly : usualMode();
         return errno == ENOENT ? eOk : fail(error, errno);
     }
-    if (FileIdentity{status.st_dev, status.st_ino} == untouchable) {
+    if (FileIdentity{status.st_dev, status.st_ino} == rules.untouchable) {
         error = L"A drawing can't be written over the file that it comes from.";
         return eDuplicateKey;
     }
@@ -93,18 +102,29 @@ KdErrorStatus SafeFile::checkTarget(const FileIdentity& untouchable, KdString& e
     return eOk;
 }
 
-KdErrorStatus SafeFile::open(const std::filesystem::path& target, bool overwrite,
-                             const FileIdentity& untouchable, KdString& error)
+bool SafeFile::makeTemporary(const std::filesystem::path& beside)
+{
+    std::string name = beside.string();
+    if (beside.empty()) {
+        name = (m_target.parent_path() / ".unfinished-XXXXXX").string();
+        m_descriptor = mkostemp(name.data(), O_CLOEXEC);
+    } else {
+        m_descriptor = ::open(name.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, kOwnerOnly);
+    }
+    if (m_descriptor >= 0)
+        m_temporary = name;
+    return m_descriptor >= 0;
+}
+
+KdErrorStatus SafeFile::open(const std::filesystem::path& target, const SafeFileRules& rules,
+                             KdString& error)
 {
     m_target = resolved(target);
-    m_overwrite = overwrite;
-    if (const KdErrorStatus status = checkTarget(untouchable, error); status != eOk)
+    m_overwrite = rules.overwrite;
+    if (const KdErrorStatus status = checkTarget(rules, error); status != eOk)
         return status;
-    std::string name = (m_target.parent_path() / ".drawing-XXXXXX").string();
-    m_descriptor = mkostemp(name.data(), O_CLOEXEC);
-    if (m_descriptor < 0)
+    if (!makeTemporary(rules.beside))
         return fail(error, errno);
-    m_temporary = name;
     m_buffer.reserve(kBufferSize);
     return eOk;
 }
@@ -169,4 +189,12 @@ KdErrorStatus SafeFile::finish(KdString& error)
     return eOk;
 }
 
-} // namespace dxf
+KdErrorStatus kdWriteFile(const std::filesystem::path& target, std::string_view bytes,
+                          const SafeFileRules& rules, KdString& error)
+{
+    SafeFile file;
+    if (const KdErrorStatus status = file.open(target, rules, error); status != eOk)
+        return status;
+    file.write(bytes);
+    return file.finish(error);
+}

@@ -1,12 +1,11 @@
-#include "entity_columns.h"
+#include <common/entity_columns.h>
 
 #include <algorithm>
 #include <utility>
 
+#include <common/handle_text.h>
+#include <common/value_text.h>
 #include <runtime/utf8.h>
-
-#include "handle_text.h"
-#include "value_text.h"
 
 namespace {
 

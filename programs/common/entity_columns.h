@@ -7,8 +7,7 @@
 #include <vector>
 
 #include <common/lookup.h>
-
-#include "row_format.h"
+#include <common/row_format.h>
 
 /// Reads columns of entities: "File", "Space", "Handle", "Type", "Class", and properties by name or
 /// key.

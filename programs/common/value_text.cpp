@@ -1,4 +1,4 @@
-#include "value_text.h"
+#include <common/value_text.h>
 
 #include <charconv>
 #include <cmath>
@@ -25,14 +25,21 @@ enum Kind : int
     kBool = 290,
 };
 
+constexpr int kOfDrawing = -1; // units and precision
+
 /// In the units of the drawing, as angles are typed.
-std::string angleText(double radians)
+std::string angleText(double radians, int decimals)
 {
-    constexpr int kUnitsOfTheDrawing = -1;
-    constexpr int kDecimals = 8;
     KdString text;
-    kddbAngToS(radians, text, kUnitsOfTheDrawing, kDecimals);
+    kddbAngToS(radians, text, kOfDrawing, decimals);
     return kdToUtf8(text);
+}
+
+std::string lengthText(double value)
+{
+    KdString text;
+    const bool isPrinted = kddbRToS(value, text, kOfDrawing, kOfDrawing) == RTNORM;
+    return isPrinted ? kdToUtf8(text) : numberText(value);
 }
 
 Json colorJson(long long word)
@@ -111,8 +118,9 @@ Json valuesJson(const std::vector<CatalogValue>& values)
 
 std::string valueText(const CatalogValue& value)
 {
+    constexpr int kDecimals = 8;
     if (value.restype == kAngle)
-        return angleText(value.number);
+        return angleText(value.number, kDecimals);
     const Json json = valueJson(value);
     if (json.is_string())
         return json.get<std::string>();
@@ -125,4 +133,21 @@ std::string valueText(const CatalogValue& value)
         text += (text.empty() ? "" : ",") +
                 numberText(coordinate.is_null() ? NAN : coordinate.get<double>());
     return text;
+}
+
+std::string shownText(const CatalogValue& value)
+{
+    switch (value.restype) {
+    case kReal:
+        return lengthText(value.number);
+    case kAngle:
+        return angleText(value.number, kOfDrawing);
+    case kPoint2d:
+        return lengthText(value.point[0]) + ", " + lengthText(value.point[1]);
+    case kPoint3d:
+        return lengthText(value.point[0]) + ", " + lengthText(value.point[1]) + ", " +
+               lengthText(value.point[2]);
+    default:
+        return valueText(value);
+    }
 }

@@ -3,7 +3,6 @@
 
 #include <filesystem>
 #include <string>
-#include <string_view>
 
 /// The right to replace a file, held through a lock on a file beside it. The lock goes with the
 /// object, and with the process however that ends; the file beside stays, for it must never be
@@ -32,7 +31,3 @@ class FileLock
 
 /// Reads a whole file. Returns 0, or the number of the system's error, `bytes` then untouched.
 int readWholeFile(const std::filesystem::path& path, std::string& bytes);
-
-/// Puts `bytes` in the place of the file: written beside it, brought to the disk, then renamed. The
-/// caller holds the lock. False, and the old file as it was, if that fails.
-bool replaceFile(const std::filesystem::path& path, std::string_view bytes);

@@ -1,4 +1,4 @@
-#include "file_replacement.h"
+#include "file_lock.h"
 
 #include <cerrno>
 #include <chrono>
@@ -48,27 +48,6 @@ fs::path withEnding(fs::path path, const char* ending)
     return path;
 }
 
-bool writeAll(int file, std::string_view bytes)
-{
-    while (!bytes.empty()) {
-        const ssize_t written = write(file, bytes.data(), bytes.size());
-        if (written < 0 && errno == EINTR)
-            continue;
-        if (written <= 0)
-            return false;
-        bytes.remove_prefix(static_cast<std::size_t>(written));
-    }
-    return true;
-}
-
-/// Makes a rename last, too.
-void flushFolder(const fs::path& folder)
-{
-    const Descriptor opened(folder, O_RDONLY | O_DIRECTORY);
-    if (opened)
-        fsync(opened.get());
-}
-
 } // namespace
 
 FileLock::FileLock(const fs::path& path)
@@ -113,18 +92,4 @@ int readWholeFile(const fs::path& path, std::string& bytes)
     }
     bytes = std::move(content);
     return 0;
-}
-
-bool replaceFile(const fs::path& path, std::string_view bytes)
-{
-    const fs::path beside = withEnding(path, ".new");
-    Descriptor file(beside, O_WRONLY | O_CREAT | O_TRUNC);
-    const bool written =
-        file && writeAll(file.get(), bytes) && fsync(file.get()) == 0 && file.close();
-    if (!written || std::rename(beside.c_str(), path.c_str()) != 0) {
-        unlink(beside.c_str());
-        return false;
-    }
-    flushFolder(path.parent_path());
-    return true;
 }

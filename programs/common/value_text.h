@@ -10,6 +10,10 @@
 /// drawing, coordinates between commas.
 std::string valueText(const CatalogValue& value);
 
+/// A value as it is read: lengths, reals and angles in the units and with the precision of the
+/// drawing.
+std::string shownText(const CatalogValue& value);
+
 /// The shortest text that reads back as the same number.
 std::string numberText(double number);
 

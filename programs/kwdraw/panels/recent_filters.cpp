@@ -1,0 +1,51 @@
+#include <kwdraw/panels/recent_filters.h>
+
+#include <algorithm>
+#include <fstream>
+#include <system_error>
+#include <utility>
+
+#include <common/filter_file.h>
+#include <runtime/safe_file.h>
+#include <runtime/utf8.h>
+
+RecentFilters::RecentFilters(std::filesystem::path file) : m_file(std::move(file))
+{
+    std::ifstream stream(m_file);
+    for (std::string line; m_texts.size() < kMost && std::getline(stream, line);) {
+        if (!line.empty())
+            m_texts.push_back(kdFromUtf8(line));
+    }
+}
+
+void RecentFilters::note(const std::wstring& text)
+{
+    if (text.empty() || text.find_first_of(L"\r\n") != std::wstring::npos)
+        return;
+    std::erase(m_texts, text);
+    m_texts.insert(m_texts.begin(), text);
+    m_texts.resize(std::min(m_texts.size(), kMost));
+    write();
+}
+
+void RecentFilters::clear()
+{
+    m_texts.clear();
+    write();
+}
+
+void RecentFilters::write() const
+{
+    std::string bytes;
+    for (const std::wstring& text : m_texts)
+        bytes += kdToUtf8(text) + '\n';
+    std::error_code noCode;
+    std::filesystem::create_directories(m_file.parent_path(), noCode);
+    KdString error;
+    kdWriteFile(m_file, bytes, {.overwrite = true}, error);
+}
+
+std::filesystem::path recentFilterFile()
+{
+    return userFilterFile().parent_path() / "recent_filters.txt";
+}
