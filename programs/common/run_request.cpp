@@ -73,7 +73,8 @@ std::optional<Comparison> comparisonOf(const RunRequest& request, Catalog& catal
 {
     Comparison comparison;
     comparison.op = request.op;
-    comparison.value = request.value;
+    if (!request.op.empty())
+        comparison.value = request.value;
     for (auto& subject : subjectsOf(request)) {
         comparison.subject = std::move(subject);
         // What is read again from the text is what counts.
@@ -83,7 +84,7 @@ std::optional<Comparison> comparisonOf(const RunRequest& request, Catalog& catal
         FilterProblem problem;
         if (expression && expression->kind == Expression::Kind::Comparison &&
             resolve(expression->comparison, catalog, filter, problem) && isSame(filter, request) &&
-            filter.op == request.op && filter.value == request.value)
+            filter.op == request.op && filter.value == comparison.value)
             return comparison;
     }
     return std::nullopt;

@@ -41,7 +41,11 @@ class Panel : public PanelsTest
         panel().show(ids);
         waitFor([this] { return panel().isComplete(); });
     }
-    void TearDown() override { m_panel.reset(); } // before the module
+    void TearDown() override
+    {
+        m_menu.reset();  // before its parent
+        m_panel.reset(); // before the module
+    }
 
     QTreeView& tree() { return *panel().findChild<QTreeView*>("properties"); }
     QComboBox& types() { return *panel().findChild<QComboBox*>("types"); }

@@ -131,7 +131,7 @@ TEST_F(Similar, IsToldAsAFilterThatSelectsTheSame)
     EXPECT_EQ(filterText(*similarRequest(nullptr, property(L"Layer"), 0)),
               L"*: General: Layer = B");
     EXPECT_EQ(filterText(*similarRequest(&line, property(L"Start"), 1)),
-              L"Line: Geometry: \"Start X\" = 0");
+              L"Line: Geometry: Start X = 0");
 }
 
 TEST_F(Similar, KnowsThePropertiesOfAllTypes)

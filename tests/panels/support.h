@@ -60,7 +60,7 @@ class PanelsTest : public testing::Test
 };
 
 /// Runs the event loop until the condition holds, for two minutes at most. Answers the longest
-/// time in milliseconds that the loop was kept from turning.
+/// time in milliseconds of work between two turns of the loop.
 double waitFor(const std::function<bool()>& condition);
 
 } // namespace panels_test

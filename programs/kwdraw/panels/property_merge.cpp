@@ -62,18 +62,25 @@ auto findKey(Properties& properties, const std::wstring& key, std::size_t guess)
     return found == properties.end() ? nullptr : &*found;
 }
 
-void addEntity(MergedType& type, std::vector<PropertyEntry> entries)
+/// @param listed  how many of the entries are no open keys; they come first
+void addEntity(MergedType& type, std::vector<PropertyEntry> entries, std::size_t listed)
 {
     std::size_t guess = 0;
     ++type.entities;
-    for (PropertyEntry& entry : entries) {
+    for (std::size_t i = 0; i < entries.size(); ++i) {
+        PropertyEntry& entry = entries[i];
         if (MergedProperty* known = findKey(type.properties, entry.key, guess)) {
             guess = static_cast<std::size_t>(known - type.properties.data()) + 1;
             if (known->entities < type.entities) // a key may be listed twice
                 addValues(*known, entry.values);
         } else if (type.entities == 1) { // what the first one lacks they don't have in common
-            type.properties.push_back(
-                {std::move(entry.key), std::move(entry.values), entry.readOnly, false, {}, 1});
+            type.properties.push_back({std::move(entry.key),
+                                       std::move(entry.values),
+                                       entry.readOnly,
+                                       i >= listed,
+                                       false,
+                                       {},
+                                       1});
             guess = type.properties.size();
         }
     }
@@ -141,8 +148,9 @@ void PropertyMerge::take(void* context, const quick_select::Entity& entity)
 {
     auto& self = *static_cast<PropertyMerge*>(context);
     std::vector<PropertyEntry> entries = propertiesOf(self.m_module, entity.id, false);
+    const std::size_t listed = entries.size();
     appendOpenKeysOf(self.m_module, entity.id, entries);
-    addEntity(self.typeOf(entity), std::move(entries));
+    addEntity(self.typeOf(entity), std::move(entries), listed);
 }
 
 MergedType& PropertyMerge::typeOf(const quick_select::Entity& entity)

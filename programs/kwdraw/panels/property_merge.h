@@ -15,6 +15,7 @@ struct MergedProperty
     std::wstring key;
     std::vector<CatalogValue> values; ///< of the first entity
     bool readOnly = false;
+    bool isOpen = false;      ///< of what its block holds, see open_keys.h
     bool varies = false;      ///< in what a person reads of the value
     bool axisVaries[3] = {};  ///< of a point, for each coordinate
     std::size_t entities = 0; ///< how many have it

@@ -1,6 +1,7 @@
 #include <kwdraw/panels/select_similar.h>
 
 #include <cmath>
+#include <numbers>
 #include <set>
 #include <tuple>
 #include <utility>
@@ -17,7 +18,7 @@ namespace {
 
 constexpr unsigned int kLayerKey = 76538;
 constexpr int kLayerName = 8;
-constexpr int kReal = 5001;
+constexpr int kAngle = 5004;
 
 /// The whole key of the layer, in the language of the module's texts.
 std::wstring layerKey()
@@ -26,6 +27,14 @@ std::wstring layerKey()
     wchar_t text[kLongest] = {};
     LoadStringW(LoadResourceDll(L"KwQselectUtilRes.dll"), kLayerKey, text, kLongest);
     return text;
+}
+
+/// A whole turn is typed in radians, since in the units of the drawing it is written as none.
+std::string typedText(const CatalogValue& value)
+{
+    const bool isWholeTurn =
+        value.restype == kAngle && value.number >= 2.0 * std::numbers::pi - 1.0e-9;
+    return isWholeTurn ? numberText(value.number) + 'r' : valueText(value);
 }
 
 bool isComparable(const MergedProperty& property, int axis)
@@ -101,8 +110,7 @@ std::optional<RunRequest> similarRequest(const MergedType* type, const MergedPro
     request.axis = axis;
     request.kind = value.restype;
     request.op = L"=";
-    request.value = kdFromUtf8(
-        valueText(axis > 0 ? CatalogValue{kReal, {}, value.point[axis - 1], 0, {}} : value));
+    request.value = kdFromUtf8(axis > 0 ? numberText(value.point[axis - 1]) : typedText(value));
     return request;
 }
 

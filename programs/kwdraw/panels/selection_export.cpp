@@ -33,8 +33,10 @@ std::vector<std::string> exportColumns(const std::vector<MergedProperty>& shown)
         });
         if (isFixed && isGeneral(property)) // the layer
             continue;
-        // A name that stands for several properties, or for a column of its own, needs the key.
-        const bool isPlain = !isFixed && std::count(names.begin(), names.end(), name) == 1;
+        // A name that stands for several properties, for a column of its own or for what a block
+        // holds needs the key.
+        const bool isPlain =
+            !isFixed && !property.isOpen && std::count(names.begin(), names.end(), name) == 1;
         std::wstring key = property.key;
         std::erase(key, L'\t');
         columns.push_back(kdToUtf8(isPlain ? property.name() : key));

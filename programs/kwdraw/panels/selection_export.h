@@ -28,8 +28,8 @@ enum class ExportFormat
 struct ExportOptions
 {
     ExportFormat format = ExportFormat::Handles;
-    std::vector<std::string> columns; ///< for csv, json and tables; see `EntityColumns`
-    bool overwrite = false;           ///< lets a file that is there be replaced
+    std::vector<std::string> columns = {}; ///< for csv, json and tables; see `EntityColumns`
+    bool overwrite = false;                ///< lets a file that is there be replaced
 };
 
 /// "Handle", "Type" and "Layer", then the properties that are shown in common.
