@@ -7,6 +7,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QProcess>
 #include <QStringList>
 
 #include <exchange/drawing_reader.h>
@@ -99,6 +100,28 @@ TEST_F(Export, WritesJsonThatAnotherReaderUnderstands)
     EXPECT_EQ(rows[0].toObject()["Center"].toArray(), (QJsonArray{0.0, 0.0, 0.0}));
     EXPECT_TRUE(rows[0].toObject()["Length"].isNull());
     EXPECT_EQ(rows[1].toObject()["Length"].toDouble(), 2.0);
+}
+
+/// Commas, quotes and line ends are in these texts.
+TEST_F(Export, WritesTablesThatAnotherProgramReads)
+{
+    openKinds();
+    Ids ids = ofType(L"Text");
+    for (const KdDbObjectId id : ofType(L"MText"))
+        ids.push_back(id);
+    const std::vector<std::string> columns{"Handle", "Contents"};
+    ASSERT_EQ(save(ids, file("out.csv"), {ExportFormat::Csv, columns}), "");
+    ASSERT_EQ(save(ids, file("out.json"), {ExportFormat::Json, columns}), "");
+    QProcess python;
+    python.setWorkingDirectory(QString::fromStdString(folder().string()));
+    python.start("python3", {"-c", "import csv, json\n"
+                                   "rows = list(csv.DictReader(open('out.csv', newline='')))\n"
+                                   "assert rows == json.load(open('out.json')), rows\n"
+                                   "print(len(rows))"});
+    ASSERT_TRUE(python.waitForFinished());
+    EXPECT_EQ(python.readAllStandardOutput().trimmed().toInt(), static_cast<int>(ids.size()))
+        << python.readAllStandardError().toStdString();
+    EXPECT_GE(ids.size(), 2u);
 }
 
 TEST_F(Export, WritesADrawingOfTheSelectedAlone)

@@ -10,6 +10,7 @@
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QFileInfo>
+#include <QLocale>
 #include <QProcess>
 #include <QStringList>
 
@@ -30,6 +31,7 @@ class Application : public testing::Environment
     void SetUp() override
     {
         setResourceLanguage("en");
+        QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
         m_application = std::make_unique<QApplication>(m_count, m_arguments);
         kduiApplyColorTheme();
     }

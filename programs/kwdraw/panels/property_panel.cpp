@@ -29,6 +29,10 @@ using namespace std::chrono_literals;
 constexpr auto kSlice = 15ms;
 constexpr qint64 kRefresh = 250; // milliseconds between two looks at what is read so far
 
+// The column of names is made for these; the user may drag it.
+constexpr const char* kUsualName = "Linetype scale";
+constexpr int kBesideName = 44; // indentation and margins
+
 QString counted(const QString& name, std::size_t count)
 {
     return QString("%1 (%2)").arg(name, QLocale().toString(static_cast<qulonglong>(count)));
@@ -106,6 +110,8 @@ void PropertyPanel::makeTree()
     m_tree->setTextElideMode(Qt::ElideRight);
     m_tree->setIndentation(14);
     m_tree->header()->setStretchLastSection(true);
+    m_tree->header()->resizeSection(PropertyModel::kName,
+                                    fontMetrics().horizontalAdvance(kUsualName) + kBesideName);
     m_tree->setContextMenuPolicy(Qt::CustomContextMenu);
     connect(m_tree, &QWidget::customContextMenuRequested, this, &PropertyPanel::showMenu);
     const auto note = [this](const QModelIndex& index, bool isOpen) {

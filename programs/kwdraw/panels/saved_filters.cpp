@@ -2,6 +2,7 @@
 
 #include <system_error>
 
+#include <QFontDatabase>
 #include <QGridLayout>
 #include <QHeaderView>
 #include <QLabel>
@@ -56,6 +57,7 @@ SavedFilters::SavedFilters(QWidget* parent, const std::filesystem::path& file,
     makeList();
     m_problem->setObjectName("problem");
     m_problem->setWordWrap(true);
+    m_problem->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont)); // for marked places
     m_problem->setTextInteractionFlags(Qt::TextSelectableByMouse);
     auto* buttons = new QGridLayout;
     m_run = addButton(tr("&Run"), "run", &SavedFilters::run);
