@@ -122,7 +122,6 @@ const KindRow kKinds[] = {
     {"point", {L"A:Start", point(9, 5, 9)}, {L"A:Start", point(5, 9, 5)}, "Start Y", kEquals, "5", nullptr, L"5"},
     {"planePoint", {L"A:Corner", point(5, 9)}, {L"A:Corner", point(9, 5)}, "Corner X", kEquals, "5", nullptr, L"5"},
     {"text", {L"A:P", text(L"Pump")}, {L"A:P", text(L"Fan")}, "P", kEquals, "Pump", nullptr, L"Pump"},
-    {"emptyText", {L"A:P", text(L"")}, {L"A:P", text(L"Fan")}, "P", kEquals, "", nullptr, L""},
     {"wildcards", {L"A:P", text(L"Pump 1")}, {L"A:P", text(L"Fan")}, "P", "* Wildcard Match", "P*", nullptr, L"P*"},
     {"layer", {L"A:P", text(L"W", 8), {text(L"0", 8), text(L"W", 8)}}, {L"A:P", text(L"0", 8), {text(L"0", 8), text(L"W", 8)}}, "P", kEquals, nullptr, "W", L"W"},
     {"linetype", {L"A:P", text(L"Continuous", 6)}, {L"A:P", text(L"x", 6)}, "P", kEquals, nullptr, "Continuous", L"Continuous"},
