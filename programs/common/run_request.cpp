@@ -17,8 +17,10 @@ void takeRequest(void* context, const quick_select::PastRequest* past)
     *static_cast<std::optional<RunRequest>*>(context) = std::move(run);
 }
 
+using Subject = std::vector<std::wstring>;
+
 /// Ways to name type and property, the shortest first.
-std::vector<std::vector<std::wstring>> subjectsOf(const RunRequest& request)
+std::vector<Subject> subjectsOf(const RunRequest& request)
 {
     const std::wstring type = request.typeName.empty() ? L"*" : request.typeName;
     if (request.key.empty())
@@ -43,6 +45,18 @@ bool isSame(const ResolvedFilter& filter, const RunRequest& request)
         return false;
     return request.key.empty() ||
            (filter.property->property.key == request.key && filter.property->axis == request.axis);
+}
+
+/// True if the text of the comparison, read again, asks for the same.
+bool findsSame(const Comparison& comparison, const RunRequest& request, Catalog& catalog)
+{
+    const auto read = readExpression(textOf(comparison));
+    const auto* expression = std::get_if<Expression>(&read);
+    ResolvedFilter filter;
+    FilterProblem problem;
+    return expression && expression->kind == Expression::Kind::Comparison &&
+           resolve(expression->comparison, catalog, filter, problem) && isSame(filter, request) &&
+           filter.op == comparison.op && filter.value == comparison.value;
 }
 
 } // namespace
@@ -75,16 +89,15 @@ std::optional<Comparison> comparisonOf(const RunRequest& request, Catalog& catal
     comparison.op = request.op;
     if (!request.op.empty())
         comparison.value = request.value;
-    for (auto& subject : subjectsOf(request)) {
+    std::vector<Subject> subjects = subjectsOf(request);
+    // Over a selection the names are those of what is selected then, so only the whole key is safe,
+    // and what its types have in common is known to it alone.
+    if (request.fromSelection)
+        subjects = {subjects.back()};
+    const bool isForSelection = request.fromSelection && request.typeName.empty();
+    for (Subject& subject : subjects) {
         comparison.subject = std::move(subject);
-        // What is read again from the text is what counts.
-        const auto read = readExpression(textOf(comparison));
-        const auto* expression = std::get_if<Expression>(&read);
-        ResolvedFilter filter;
-        FilterProblem problem;
-        if (expression && expression->kind == Expression::Kind::Comparison &&
-            resolve(expression->comparison, catalog, filter, problem) && isSame(filter, request) &&
-            filter.op == request.op && filter.value == comparison.value)
+        if (isForSelection || findsSame(comparison, request, catalog))
             return comparison;
     }
     return std::nullopt;

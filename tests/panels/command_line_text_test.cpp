@@ -127,6 +127,17 @@ TEST_F(Line, ChainsRunsOverTheSelectionAndThoseThatJoinIt)
     expectSame({onWalls(), more, others});
 }
 
+/// A selection of lines alone has all properties of lines in common.
+TEST_F(Line, AsksASelectionForWhatItHasInCommon)
+{
+    openPlan();
+    RunRequest within = request(L"Line", L"AcDbLine", L"Length", L">", L"3000");
+    within.typeName.clear();
+    within.className.clear();
+    within.fromSelection = true;
+    expectSame({request(L"Line", L"AcDbLine", L"", L"", L""), within});
+}
+
 TEST_F(Line, NamesTheSpaceAndTheTolerance)
 {
     openPlan();
@@ -149,10 +160,11 @@ TEST_F(Line, GivesTheFilterAloneForWhatWasPickedOrSelectedByHand)
     joining.append = true;
     for (const RunRequest& run : {picked, within, joining}) {
         const CommandLineText text = textOf({run});
-        EXPECT_EQ(text.text, "Circle: Radius > 10");
+        EXPECT_EQ(text.text,
+                  run.fromSelection ? "Circle: Geometry: Radius > 10" : "Circle: Radius > 10");
         EXPECT_NE(text.note.find("by hand"), std::string::npos) << text.note;
     }
-    EXPECT_EQ(textOf({onWalls(), picked}).text, "Circle: Radius > 10");
+    EXPECT_EQ(textOf({onWalls(), picked}).text, "Circle: Geometry: Radius > 10");
 }
 
 TEST_F(Line, SurvivesTheShell)

@@ -14,8 +14,8 @@
 #include <QProcess>
 #include <QStringList>
 
+#include <common/entity_set.h>
 #include <common/handle_text.h>
-#include <editor/selection_sets.h>
 #include <exchange/drawing_reader.h>
 #include <platform/resources.h>
 #include <ui/theme.h>
@@ -128,31 +128,12 @@ KdDbObjectId PanelsTest::entity(std::uint64_t handle) const
 
 Ids PanelsTest::selection()
 {
-    Ids ids;
-    kds_name set;
-    if (kdedSSGetFirst(set) != RTNORM)
-        return ids;
-    kds_name name;
-    for (long i = 0; kdedSSName(set, i, name) == RTNORM; ++i) {
-        KdDbObjectId id;
-        EXPECT_EQ(kddbGetObjectId(id, name), eOk);
-        ids.push_back(id);
-    }
-    kdedSSFree(set);
-    return ids;
+    return pickfirstEntities();
 }
 
 void PanelsTest::select(const Ids& ids)
 {
-    kds_name set;
-    ASSERT_EQ(kdedSSAdd(nullptr, nullptr, set), RTNORM);
-    for (const KdDbObjectId id : ids) {
-        kds_name name;
-        ASSERT_EQ(kddbGetKdsName(name, id), eOk);
-        kdedSSAdd(name, set, set);
-    }
-    kdedSSSetFirst(set, nullptr);
-    kdedSSFree(set);
+    setPickfirstEntities(ids);
 }
 
 std::vector<std::string> PanelsTest::handles(const Ids& ids)

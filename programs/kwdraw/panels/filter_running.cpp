@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include <common/entity_set.h>
 #include <common/selection_steps.h>
 #include <editor/selection_sets.h>
 #include <runtime/utf8.h>
@@ -19,27 +20,6 @@ class QuietPickfirst
 
   private:
     KdedPickfirstHook m_hook;
-};
-
-/// The selection as it was, put back unless it is to stay.
-class KeptSelection
-{
-  public:
-    KeptSelection() { kdedSSGetFirst(m_set); }
-    ~KeptSelection()
-    {
-        if (!m_isReplaced)
-            kdedSSSetFirst(m_set[0] || m_set[1] ? m_set : nullptr, nullptr);
-        kdedSSFree(m_set);
-    }
-    KeptSelection(const KeptSelection&) = delete;
-    KeptSelection& operator=(const KeptSelection&) = delete;
-
-    void replace() { m_isReplaced = true; }
-
-  private:
-    kds_name m_set = {0, 0};
-    bool m_isReplaced = false;
 };
 
 std::string withPlace(const std::string& sentence, const std::wstring& text, std::size_t place)
@@ -66,17 +46,17 @@ bool runFilter(const Module& module, const std::wstring& text, const FilterFile&
     Ids found;
     {
         const QuietPickfirst quiet;
-        KeptSelection kept;
+        const Ids before = pickfirstEntities();
         Catalog catalog(module);
         Selecting selecting(catalog);
         if (!selecting.carryOut(step)) {
+            setPickfirstEntities(before);
             // Places in the text of another filter say nothing here.
             problem = namesOthers ? selecting.problem().sentence
                                   : withPlace(selecting.problem().sentence, text,
                                               selecting.problem().place);
             return false;
         }
-        kept.replace();
         found = selecting.selection();
     }
     tellSelection(module, found);
