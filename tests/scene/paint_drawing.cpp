@@ -22,7 +22,8 @@ KdDbObjectId spaceOf(const KdDbDatabase& database, const char* layout)
 {
     if (!layout)
         return database.modelSpaceId();
-    return KdDbLayoutManager().findBlock(QString::fromUtf8(layout).toStdWString().c_str(), &database);
+    return KdDbLayoutManager().findBlock(QString::fromUtf8(layout).toStdWString().c_str(),
+                                         &database);
 }
 
 } // namespace
@@ -40,8 +41,7 @@ int main(int argc, char** argv)
     const auto start = std::chrono::steady_clock::now();
     const auto model = buildScene(*database, database->modelSpaceId(), nullptr, {}, folder);
     const KdDbObjectId space = spaceOf(*database, argc > 4 ? argv[4] : nullptr);
-    const auto scene =
-        argc > 4 ? buildScene(*database, space, model, {}, folder) : model;
+    const auto scene = argc > 4 ? buildScene(*database, space, model, {}, folder) : model;
     if (!scene)
         return 3;
     std::printf("%s: %zu items, %zu shapes, %zu points, %zu windows, %.3f s, %g %g .. %g %g\n",

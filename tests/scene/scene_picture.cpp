@@ -130,8 +130,8 @@ class Painting
         const double scale = 1.0 / QFontMetricsF(used).capHeight();
         QPainterPath path;
         path.addText(0.0, 0.0, used, text.text);
-        m_painter.fillPath((QTransform::fromScale(scale, -scale) * text.placement * m_map).map(path),
-                           color);
+        m_painter.fillPath(
+            (QTransform::fromScale(scale, -scale) * text.placement * m_map).map(path), color);
     }
 
     void paintImage(const SceneImage& image)
