@@ -186,10 +186,7 @@ TEST_F(BlockScenes, AttributesShowUnlessTheyAreInvisible)
     auto* reference = addReference(modelId(), block, KdGePoint3d{});
     addAttribute(reference, L"SEEN");
     KdDbAttribute* hidden = addAttribute(reference, L"HIDDEN");
-    KdDbAttribute* opened = nullptr;
-    ASSERT_EQ(kddbOpenObject(opened, hidden->objectId(), KdDb::kForWrite), eOk);
-    opened->edit().mode.invisible = true;
-    opened->close();
+    change(hidden, [](AttributeMembers& members) { members.mode.invisible = true; });
     const auto texts = [&] { return build()->texts; };
     ASSERT_THAT(texts(), SizeIs(1));
     EXPECT_EQ(texts()[0].text, QStringLiteral("SEEN"));
@@ -257,8 +254,8 @@ TEST_F(BlockScenes, ItemsStandInDrawOrder)
                              {third->objectId(), first->handle()}};
     drawing.addObject(order, {});
     auto* extension = new KdDbDictionary;
-    drawing.addObject(extension, modelId());
     extension->edit().entries.push_back({L"ACAD_SORTENTS", order->objectId()});
+    drawing.addObject(extension, modelId());
     KdDbBlockTableRecord* model = nullptr;
     ASSERT_EQ(kddbOpenObject(model, modelId(), KdDb::kForWrite), eOk);
     model->edit().extensionDictionary = extension->objectId();

@@ -51,7 +51,7 @@ class LookScenes : public SceneTest
     KdDbObjectId dashed()
     {
         auto* record = drawing.addRecord<KdDbLinetypeTable>(L"DASHED");
-        record->edit().dashes = {2.0, -1.0};
+        change(record, [](LinetypeMembers& members) { members.dashes = {2.0, -1.0}; });
         return record->objectId();
     }
 };
@@ -116,10 +116,7 @@ TEST_F(LookScenes, TransparencyIsTheAlphaOfTheColour)
         addLayer(L"GLASS", [](LayerMembers& members) { members.transparency = 0x02000080; });
     line(modelId(), layer, kAciRed);
     auto* own = line(modelId(), layer, kAciRed);
-    KdDbLine* opened = nullptr;
-    ASSERT_EQ(kddbOpenObject(opened, own->objectId(), KdDb::kForWrite), eOk);
-    opened->edit().transparency = 0x02000040;
-    opened->close();
+    change(own, [](LineMembers& members) { members.transparency = 0x02000040; });
     const auto scene = build();
     EXPECT_EQ(lookOf(*scene, scene->shapes[0]).color, 0x80FF0000);
     EXPECT_EQ(lookOf(*scene, scene->shapes[1]).color, 0x40FF0000);

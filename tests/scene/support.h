@@ -54,11 +54,21 @@ class SceneTest : public testing::Test
         return part;
     }
 
+    /// Changes the members of an object of the drawing.
+    template <class Object, class Change>
+    static void change(Object* object, Change apply)
+    {
+        Object* opened = nullptr;
+        ASSERT_EQ(kddbOpenObject(opened, object->objectId(), KdDb::kForWrite), eOk);
+        apply(opened->edit());
+        opened->close();
+    }
+
     template <class Fill>
     KdDbObjectId addLayer(const wchar_t* name, Fill fill)
     {
         auto* layer = drawing.addRecord<KdDbLayerTable>(name);
-        fill(layer->edit());
+        change(layer, fill);
         return layer->objectId();
     }
     KdDbObjectId addBlock(const wchar_t* name);

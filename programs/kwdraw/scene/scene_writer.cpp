@@ -10,10 +10,11 @@
 
 namespace {
 
+/// Comparisons with what is no number leave a box as empty as it was.
 bool isFinite(const SceneBox& box)
 {
-    return std::isfinite(box.left) && std::isfinite(box.right) && std::isfinite(box.bottom) &&
-           std::isfinite(box.top);
+    return box.left <= box.right && box.bottom <= box.top && std::isfinite(box.width()) &&
+           std::isfinite(box.height());
 }
 
 SceneBox boxOfFrame(const QTransform& placement, double left, double bottom, double right,
