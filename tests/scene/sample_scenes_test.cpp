@@ -90,13 +90,14 @@ TEST_P(SampleScene, HasSoundSheetsAndBlocks)
 }
 
 /// Kinds whose extents and shapes rest on the same points. Widths and arrowheads reach beyond the
-/// extents, texts are measured in another font, and a body's extents count its faces.
+/// extents, texts are measured in another font, edges of faces may be hidden, and a body's extents
+/// count its faces.
 bool isComparable(const KdDbEntity& entity)
 {
     static const KdRxClass* const kKinds[] = {
-        KdDbLine::desc(),   KdDbCircle::desc(), KdDbArc::desc(),    KdDbEllipse::desc(),
-        KdDbSpline::desc(), KdDbFace::desc(),   KdDbSolid::desc(),  KdDbMline::desc(),
-        KdDbTrace::desc(),  KdDbPoint::desc(),  KdDbWipeout::desc()};
+        KdDbLine::desc(),   KdDbCircle::desc(), KdDbArc::desc(),   KdDbEllipse::desc(),
+        KdDbSpline::desc(), KdDbSolid::desc(),  KdDbMline::desc(), KdDbTrace::desc(),
+        KdDbPoint::desc(),  KdDbWipeout::desc()};
     if (std::ranges::find(kKinds, entity.isA()) != std::end(kKinds))
         return true;
     if (!entity.isKindOf(KdDbHatch::desc()))
