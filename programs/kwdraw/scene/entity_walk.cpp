@@ -12,10 +12,13 @@ namespace {
 /// A deeper nesting is a mistake, and the stack has its limits.
 constexpr std::size_t kDeepestNesting = 64;
 
-/// What blocks may add to a scene, in points and visits of entities. A drawing can ask for any
-/// amount with a few nested references, and beyond this neither the memory of a usual computer nor
-/// the patience of its owner last; references then show as boxes.
+/// What blocks may add to a scene, in points. A drawing can ask for any amount with a few nested
+/// references, and beyond this neither the memory of a usual computer nor the patience of its owner
+/// last; references then show as boxes. Entities and references that are looked at in blocks count
+/// as well, by the time that they take, since they may show nothing.
 constexpr std::uint64_t kMostWork = 20'000'000;
+constexpr std::uint64_t kWorkOfEntity = 2;
+constexpr std::uint64_t kWorkOfReference = 16;
 
 constexpr std::size_t kEntitiesBetweenReports = 256;
 
@@ -160,7 +163,7 @@ const std::vector<KdDbObjectId>& EntityWalk::contentsOf(KdDbObjectId block)
 
 std::size_t EntityWalk::pointsLeft() const
 {
-    const std::uint64_t used = m_scene.points.size() + m_visits;
+    const std::uint64_t used = m_scene.points.size() + m_work;
     return used < kMostWork ? kMostWork - used : 0;
 }
 
@@ -197,7 +200,7 @@ void EntityWalk::drawBlock(KdDbObjectId block, const KdGeMatrix3d& placement)
 
 void EntityWalk::drawContents(const std::vector<KdDbObjectId>& ids)
 {
-    m_visits += ids.size() + 1;
+    m_work += kWorkOfEntity * ids.size() + kWorkOfReference;
     for (const KdDbObjectId id : ids) {
         if (isTooMuch())
             return;
@@ -225,7 +228,7 @@ SceneBox EntityWalk::boxOf(KdDbObjectId block)
         return entry->second;
     Scene scratch;
     EntityWalk walk(m_database, scratch, KdGeMatrix3d(), m_folder);
-    walk.m_visits = kMostWork + 1; // references in the block count by their boxes as well
+    walk.m_work = kMostWork; // references in the block count by their boxes as well
     walk.m_activeBlocks = m_activeBlocks;
     std::swap(walk.m_boxes, m_boxes); // so that each box is made once, however deep blocks nest
     walk.drawSpace(*record, {});

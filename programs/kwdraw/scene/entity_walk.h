@@ -99,7 +99,7 @@ class EntityWalk
     SceneLook m_entityLook;
     std::uint32_t m_entityLayer = 0;
     std::vector<KdDbObjectId> m_activeBlocks;
-    std::uint64_t m_visits = 0;
+    std::uint64_t m_work = 0; ///< without the points
     std::unordered_map<const KdRxClass*, DrawEntity> m_drawers;
     std::unordered_map<KdDbObjectId, std::vector<KdDbObjectId>> m_contents;
     std::unordered_map<KdDbObjectId, SceneBox> m_boxes;
