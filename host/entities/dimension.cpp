@@ -7,6 +7,8 @@
 #include <database/associativity.h>
 #include <database/database.h>
 
+#include "block_extents.h"
+
 KD_RX_DEFINE_ABSTRACT(KdDbDimension, KdDbEntity, L"AcDbDimension")
 
 namespace {
@@ -52,6 +54,12 @@ bool hasExpressionOf(KdDbObjectId variable)
 bool KdDbDimension::isPlanar() const
 {
     return true;
+}
+
+KdErrorStatus KdDbDimension::getGeomExtents(KdGeExtents3d& extents) const
+{
+    // The contents of a dimension's block stand in world coordinates.
+    return extentsOfBlock(dimBlockId(), extents);
 }
 
 KdErrorStatus KdDbDimension::measurement(double& value) const

@@ -1,5 +1,6 @@
 #include <entities/hatch.h>
 
+#include <algorithm>
 #include <memory>
 
 #include <entities/line.h>
@@ -43,12 +44,12 @@ HatchPatternLine movedTo(HatchPatternLine family, const KdGePoint2d& origin)
 }
 
 /// The visible lines in the frame of the boundary; false if there are too many.
-bool cutAllLines(const HatchContent& hatch, const HatchBoundary& boundary,
+bool cutAllLines(const HatchContent& hatch, const HatchBoundary& boundary, std::size_t most,
                  std::vector<plane::Line>& lines)
 {
     const std::vector<plane::Curve> curves = outlines(boundary);
     for (const HatchPatternLine& family : hatch.patternLines) {
-        if (!cutHatchLines(curves, movedTo(family, boundary.origin()), lines))
+        if (!cutHatchLines(curves, movedTo(family, boundary.origin()), most, lines))
             return false;
     }
     return true;
@@ -64,11 +65,11 @@ double estimatedLines(const HatchContent& hatch, const HatchBoundary& boundary)
 }
 
 KdErrorStatus visibleLines(const HatchContent& hatch, const HatchBoundary& boundary,
-                           std::vector<plane::Line>& lines)
+                           std::size_t most, std::vector<plane::Line>& lines)
 {
     if (boundary.loops().empty() || hatch.patternLines.empty())
         return eNotApplicable;
-    return cutAllLines(hatch, boundary, lines) ? eOk : eOutOfRange;
+    return cutAllLines(hatch, boundary, most, lines) ? eOk : eOutOfRange;
 }
 
 /// A hatch for each region.
@@ -123,6 +124,35 @@ void addWorldRange(const HatchBoundary& boundary, const KdGeVector2d& direction,
 }
 
 } // namespace
+
+std::vector<std::vector<std::size_t>> kddbFilledLoops(const HatchContent& hatch)
+{
+    const HatchBoundary boundary(hatch);
+    std::vector<std::vector<std::size_t>> areas;
+    for (const plane::Region& region : boundary.filledRegions()) {
+        std::vector<std::size_t>& area = areas.emplace_back();
+        area.push_back(boundary.numberOf(region.outer));
+        for (const std::size_t hole : region.holes)
+            area.push_back(boundary.numberOf(hole));
+    }
+    return areas;
+}
+
+KdErrorStatus kddbPatternLines(const HatchContent& hatch, std::size_t most,
+                               std::vector<HatchLineEdge>& lines)
+{
+    const HatchBoundary boundary(hatch);
+    std::vector<plane::Line> cut;
+    const KdErrorStatus status =
+        visibleLines(hatch, boundary, std::min(most, kMostHatchLines), cut);
+    if (status != eOk)
+        return status;
+    const KdGePoint2d& origin = boundary.origin();
+    for (const plane::Line& line : cut)
+        lines.push_back({{line.start.x + origin.x, line.start.y + origin.y},
+                         {line.end.x + origin.x, line.end.y + origin.y}});
+    return eOk;
+}
 
 KdErrorStatus KdDbHatch::getGradientColors(unsigned& count, const KdCmColor*& colors,
                                            const float*& values) const
@@ -220,7 +250,7 @@ KdErrorStatus KdDbHatch::evaluateHatch(bool estimate) const
                    ? eOk
                    : eOutOfRange;
     std::vector<plane::Line> lines;
-    return visibleLines(hatch, boundary, lines);
+    return visibleLines(hatch, boundary, kMostHatchLines, lines);
 }
 
 KdErrorStatus KdDbHatch::explode(KdArray<KdDbEntity*>& pieces) const
@@ -234,7 +264,7 @@ KdErrorStatus KdDbHatch::explode(KdArray<KdDbEntity*>& pieces) const
         made = regionPieces(*this, hatch, boundary);
     } else {
         std::vector<plane::Line> lines;
-        const KdErrorStatus status = visibleLines(hatch, boundary, lines);
+        const KdErrorStatus status = visibleLines(hatch, boundary, kMostHatchLines, lines);
         if (status != eOk)
             return status;
         made = linePieces(*this, hatch, boundary.origin(), lines);

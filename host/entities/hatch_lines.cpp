@@ -130,7 +130,7 @@ double countHatchLines(std::span<const plane::Curve> boundary, const HatchPatter
 }
 
 bool cutHatchLines(std::span<const plane::Curve> boundary, const HatchPatternLine& family,
-                   std::vector<plane::Line>& pieces)
+                   std::size_t most, std::vector<plane::Line>& pieces)
 {
     std::vector<plane::Curve> level;
     level.reserve(boundary.size());
@@ -138,7 +138,7 @@ bool cutHatchLines(std::span<const plane::Curve> boundary, const HatchPatternLin
         level.push_back(turned(curve, plane::Turn(-family.angle)));
     const LevelFamily lines(family);
     const LineNumbers numbers(lines, heightOf(level, 0.0));
-    if (!(numbers.count() <= static_cast<double>(kMostHatchLines)))
+    if (!(numbers.count() <= static_cast<double>(most)))
         return false;
 
     // A line that only grazes the boundary has a length of half the digits.
@@ -152,7 +152,7 @@ bool cutHatchLines(std::span<const plane::Curve> boundary, const HatchPatternLin
         const double phase = lines.base.x + number * lines.offset.x;
         const auto append = [&](double from, double to) {
             pieces.push_back({back(KdGePoint2d{from, y}), back(KdGePoint2d{to, y})});
-            return pieces.size() <= kMostHatchLines;
+            return pieces.size() <= most;
         };
         const std::vector<double>& crossings = sweep.crossings(y);
         for (std::size_t k = 1; k < crossings.size(); k += 2) {

@@ -18,6 +18,7 @@ double countHatchLines(std::span<const plane::Curve> boundary, const HatchPatter
 /// Appends the parts of a family's lines that lie inside: between the first crossing with the
 /// boundary and the second, the third and the fourth, and so on, broken into its dashes.
 /// @param boundary  closed loops, in the frame of the family
-/// @return          false if `pieces` would get longer than `kMostHatchLines`
+/// @return          false if `pieces` would get longer than `most`, which is not above
+///                  `kMostHatchLines`
 bool cutHatchLines(std::span<const plane::Curve> boundary, const HatchPatternLine& family,
-                   std::vector<plane::Line>& pieces);
+                   std::size_t most, std::vector<plane::Line>& pieces);

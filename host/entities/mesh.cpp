@@ -1,5 +1,7 @@
 #include <entities/mesh.h>
 
+#include <algorithm>
+
 KD_RX_DEFINE(KdDbPolygonMesh, KdDbEntity, L"AcDbPolygonMesh", L"POLYLINE")
 KD_RX_DEFINE(KdDbPolyFaceMesh, KdDbEntity, L"AcDbPolyFaceMesh", L"POLYLINE")
 KD_RX_DEFINE(KdDbSubDMesh, KdDbEntity, L"AcDbSubDMesh", L"MESH")
@@ -23,6 +25,31 @@ KdErrorStatus extentsOfCorners(const KdDbPartList& parts, KdGeExtents3d& extents
 }
 
 } // namespace
+
+std::vector<std::pair<std::uint32_t, std::uint32_t>> KdDbSubDMesh::edges() const
+{
+    const std::vector<std::int32_t>& faces = data().faces;
+    const auto isCorner = [this](std::int32_t corner) {
+        return corner >= 0 && static_cast<std::size_t>(corner) < data().vertices.size();
+    };
+    std::vector<std::pair<std::uint32_t, std::uint32_t>> edges;
+    for (std::size_t first = 1; first <= faces.size();) {
+        const std::int32_t stated = faces[first - 1];
+        const std::size_t corners = static_cast<std::size_t>(std::max(stated, 0));
+        if (corners > faces.size() - first)
+            break;
+        for (std::size_t i = 0; i < corners; ++i) {
+            const std::int32_t from = faces[first + i];
+            const std::int32_t to = faces[first + (i + 1) % corners];
+            if (isCorner(from) && isCorner(to))
+                edges.emplace_back(std::min(from, to), std::max(from, to));
+        }
+        first += corners + 1;
+    }
+    std::ranges::sort(edges);
+    edges.erase(std::unique(edges.begin(), edges.end()), edges.end());
+    return edges;
+}
 
 KdErrorStatus KdDbPolygonMesh::getGeomExtents(KdGeExtents3d& extents) const
 {

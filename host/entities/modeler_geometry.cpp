@@ -7,6 +7,11 @@ std::string KdDbModelerGeometry::bodyData() const
     return data().bodyData ? data().bodyData() : std::string();
 }
 
+std::vector<ModelerEdge> KdDbModelerGeometry::edges() const
+{
+    return readModelerBody(bodyData()).edges;
+}
+
 KdErrorStatus KdDbModelerGeometry::getGeomExtents(KdGeExtents3d& extents) const
 {
     const KdGeExtents3d box = extentsOfBody(readModelerBody(bodyData()));

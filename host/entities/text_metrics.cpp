@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include <entities/text_codes.h>
+
 namespace {
 
 // Widths are told in sixths of the height, as such fonts are drawn on a grid: most letters take
@@ -43,38 +45,6 @@ bool isFullWidth(wchar_t letter)
     });
 }
 
-bool isDigit(wchar_t c)
-{
-    return c >= L'0' && c <= L'9';
-}
-
-/// The letter of a code of one sign, 0 for a switch that shows nothing, -1 for no code.
-int letterOfCode(wchar_t sign)
-{
-    switch (sign) {
-    case L'c':
-    case L'C':
-        return 0x2300; // diameter
-    case L'd':
-    case L'D':
-        return 0xB0;
-    case L'p':
-    case L'P':
-        return 0xB1;
-    case L'%':
-        return L'%';
-    case L'u':
-    case L'U':
-    case L'o':
-    case L'O':
-    case L'k':
-    case L'K':
-        return 0;
-    default:
-        return -1;
-    }
-}
-
 } // namespace
 
 double letterAdvance(wchar_t letter)
@@ -99,35 +69,16 @@ double lettersDescent(std::wstring_view letters)
     return letters.find_first_of(L"gjpqyQ,;") == std::wstring_view::npos ? 0.0 : kDescent;
 }
 
-bool takePercentCode(std::wstring_view text, std::size_t& at, std::wstring& letters)
-{
-    constexpr std::size_t kDigits = 3;
-    const std::wstring_view rest = text.substr(at);
-    if (!rest.starts_with(L"%%") || rest.size() < 3)
-        return false;
-    const std::wstring_view digits = rest.substr(2, kDigits);
-    if (digits.size() == kDigits && std::ranges::all_of(digits, isDigit)) {
-        const int number = (digits[0] - L'0') * 100 + (digits[1] - L'0') * 10 + (digits[2] - L'0');
-        letters.push_back(static_cast<wchar_t>(number));
-        at += 2 + kDigits;
-        return true;
-    }
-    const int letter = letterOfCode(rest[2]);
-    if (letter < 0)
-        return false;
-    if (letter > 0)
-        letters.push_back(static_cast<wchar_t>(letter));
-    at += 3;
-    return true;
-}
-
 std::wstring shownLetters(std::wstring_view text)
 {
     std::wstring letters;
     letters.reserve(text.size());
     for (std::size_t at = 0; at < text.size();) {
-        if (!takePercentCode(text, at, letters))
+        TextCode code;
+        if (!kddbTakeTextCode(text, at, code))
             letters.push_back(text[at++]);
+        else if (!code.lineSwitch)
+            letters.push_back(code.letter);
     }
     return letters;
 }

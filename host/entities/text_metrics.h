@@ -15,8 +15,5 @@ double lettersDescent(std::wstring_view letters);
 /// The gap behind each letter for a height of 1.
 constexpr double kLetterGap = 1.0 / 3.0;
 
-/// Takes a `%%` code of a text: appends the letter for which it stands, if any, and moves `at` on.
-/// False, with nothing changed, if there is no code at that place.
-bool takePercentCode(std::wstring_view text, std::size_t& at, std::wstring& letters);
 /// The letters that a single-line text shows, its `%%` codes resolved.
 std::wstring shownLetters(std::wstring_view text);

@@ -400,8 +400,24 @@ void readHatch(RecordReader& reader, HatchMembers& hatch)
         hatch.patternSpace = std::exchange(hatch.patternScale, 1.0);
 }
 
+/// Like a hatch, with other codes for what fills it.
+void readMPolygon(RecordReader& reader, HatchMembers& polygon)
+{
+    bool isBehindLoops = false;
+    LoopReader loops(reader, polygon);
+    while (reader.next()) {
+        if (loops.take())
+            continue;
+        if (reader.code() == 71)
+            polygon.solid = reader.flag();
+        else if (reader.code() != 70)
+            takeRest(reader, polygon, isBehindLoops);
+    }
+}
+
 constexpr MemberReaderRow kRows[] = {
     memberReader<KdDbHatch, HatchMembers, readHatch>(),
+    memberReader<KdDbMPolygon, HatchMembers, readMPolygon>(),
 };
 
 } // namespace

@@ -1,6 +1,7 @@
 // Images, the files behind them, and frames with the content of other programs.
 #include <entities/image.h>
 #include <entities/ole_frame.h>
+#include <entities/underlay.h>
 
 #include "member_fields.h"
 #include "member_readers.h"
@@ -44,7 +45,17 @@ constexpr FieldRow<OleFrameMembers> kFrameFields[] = {
     {11, field<&OleFrameMembers::lowerRight>},
     {71, field<&OleFrameMembers::type>},
 };
+constexpr FieldRow<UnderlayMembers> kUnderlayFields[] = {
+    {10, field<&UnderlayMembers::position>},
+    {11, [](RecordReader& reader, UnderlayMembers& page) { page.clipPolygon.push_back(reader.point2d()); }},
+    {41, [](RecordReader& reader, UnderlayMembers& page) { page.scale.sx = reader.real(); }},
+    {42, [](RecordReader& reader, UnderlayMembers& page) { page.scale.sy = reader.real(); }},
+    {43, [](RecordReader& reader, UnderlayMembers& page) { page.scale.sz = reader.real(); }},
+    {50, [](RecordReader& reader, UnderlayMembers& page) { page.rotation = reader.angle(); }},
+    {210, [](RecordReader& reader, UnderlayMembers& page) { page.extrusion.direction = reader.vector(); }},
+};
 constexpr MemberReaderRow kRows[] = {
+    memberReader<KdDbUnderlayReference, UnderlayMembers, readFields<kUnderlayFields>>(),
     memberReader<KdDbRasterImage, RasterImageMembers, readFields<kImageFields>>(),
     memberReader<KdDbWipeout, RasterImageMembers, readFields<kImageFields>>(),
     memberReader<KdDbRasterImageDef, RasterImageDefMembers, readFields<kDefinitionFields>>(),

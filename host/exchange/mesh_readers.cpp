@@ -1,4 +1,4 @@
-// Meshes whose vertices are entities of their own.
+// Meshes.
 #include <entities/mesh.h>
 
 #include "member_readers.h"
@@ -50,7 +50,47 @@ void readPolyFaceMesh(RecordReader& reader, PolyFaceMeshMembers& mesh)
     }
 }
 
+void readSubDMesh(RecordReader& reader, SubDMeshMembers& mesh)
+{
+    bool isInFaces = false; // the numbers of edges behind them have the same code
+    while (reader.next()) {
+        switch (reader.code()) {
+        case 10:
+            mesh.vertices.push_back(reader.point());
+            break;
+        case 90:
+            if (isInFaces)
+                mesh.faces.push_back(reader.integer());
+            break;
+        case 91:
+            if (mesh.vertices.empty())
+                mesh.level = reader.integer();
+            break;
+        case 93:
+            isInFaces = true;
+            break;
+        case 94:
+            isInFaces = false;
+            break;
+        default:
+            break;
+        }
+    }
+}
+
+void readFaceRecord(RecordReader& reader, FaceRecordMembers& face)
+{
+    constexpr int kFirstCorner = 71;
+    while (reader.next()) {
+        const int corner = reader.code() - kFirstCorner;
+        if (corner >= 0 && corner < static_cast<int>(face.corners.size()))
+            face.corners[static_cast<std::size_t>(corner)] = reader.shortInteger();
+    }
+}
+
 constexpr MemberReaderRow kRows[] = {
+    memberReader<KdDbFaceRecord, FaceRecordMembers, readFaceRecord>(),
+    memberReader<KdDbSubDMesh, SubDMeshMembers, readSubDMesh>(),
     memberReader<KdDbPolygonMesh, PolygonMeshMembers, readPolygonMesh>(),
     memberReader<KdDbPolyFaceMesh, PolyFaceMeshMembers, readPolyFaceMesh>(),
 };

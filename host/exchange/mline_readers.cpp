@@ -7,7 +7,20 @@
 namespace dxf {
 namespace {
 
-constexpr int kClosed = 2;
+/// Group 71.
+enum Flag : int
+{
+    kClosed = 2,
+    kWithoutStartCaps = 4,
+    kWithoutEndCaps = 8,
+};
+
+void takeFlags(int flags, MlineMembers& mline)
+{
+    mline.closed = (flags & kClosed) != 0;
+    mline.withoutStartCaps = (flags & kWithoutStartCaps) != 0;
+    mline.withoutEndCaps = (flags & kWithoutEndCaps) != 0;
+}
 
 void readMline(RecordReader& reader, MlineMembers& mline)
 {
@@ -27,7 +40,7 @@ void readMline(RecordReader& reader, MlineMembers& mline)
             mline.justification = static_cast<std::int8_t>(reader.integer());
             break;
         case 71:
-            mline.closed = (reader.integer() & kClosed) != 0;
+            takeFlags(reader.integer(), mline);
             break;
         case 210:
             mline.normal = reader.vector();
@@ -55,8 +68,31 @@ void readMlineStyle(RecordReader& reader, MlineStyleMembers& style)
         case 3:
             style.description = reader.text();
             break;
-        case 49:
+        case 6:
+            if (!style.linetypes.empty())
+                style.linetypes.back() = reader.source().linetype(reader.group());
+            break;
+        case 49: // begins an element
             style.offsets.push_back(reader.real());
+            style.colors.push_back(KdCmColor().color());
+            style.linetypes.emplace_back();
+            break;
+        case 51:
+            style.startAngle = reader.angle();
+            break;
+        case 52:
+            style.endAngle = reader.angle();
+            break;
+        case 62:
+            (style.colors.empty() ? style.fillColor : style.colors.back()) =
+                colorWordOfIndex(reader.integer());
+            break;
+        case 70:
+            style.flags = reader.integer();
+            break;
+        case 420:
+            (style.colors.empty() ? style.fillColor : style.colors.back()) =
+                colorWordOfRgb(reader.integer());
             break;
         default:
             break;

@@ -2,6 +2,7 @@
 #include <database/dictionary.h>
 #include <database/layout.h>
 #include <database/named_objects.h>
+#include <entities/draw_order.h>
 
 #include "member_readers.h"
 
@@ -242,6 +243,16 @@ void readGroup(RecordReader& reader, GroupMembers& group)
     }
 }
 
+void readSortentsTable(RecordReader& reader, SortentsTableMembers& table)
+{
+    while (reader.next()) {
+        if (reader.code() == 331)
+            table.entries.push_back({reader.reference(), 0});
+        else if (reader.code() == 5 && !table.entries.empty()) // the first one is the table's own
+            table.entries.back().sortHandle = reader.handle();
+    }
+}
+
 constexpr MemberReaderRow kRows[] = {
     memberReader<KdDbDictionary, DictionaryMembers, readDictionary>(),
     memberReader<KdDbDictionaryVar, DictionaryVariableMembers, readDictionaryVariable>(),
@@ -250,6 +261,7 @@ constexpr MemberReaderRow kRows[] = {
     memberReader<KdDbMaterial, MaterialMembers, readMaterial>(),
     memberReader<KdDbPlotSettings, PlotSettingsMembers, readPlotSettings>(),
     memberReader<KdDbScale, ScaleMembers, readScale>(),
+    memberReader<KdDbSortentsTable, SortentsTableMembers, readSortentsTable>(),
 };
 
 } // namespace

@@ -1,6 +1,8 @@
 // Viewports.
 #include <entities/viewport.h>
 
+#include <iterator>
+
 #include "application_data.h"
 #include "member_readers.h"
 
@@ -31,6 +33,7 @@ bool isUnnumberedSheet(RecordReader& reader)
 /// Group 90.
 enum Flag : int
 {
+    kIsPerspective = 1,
     kHidesInPlot = 2048,
     kIsLocked = 16384,
     kIsOff = 131072,
@@ -50,12 +53,49 @@ void takeFlags(int flags, ViewportMembers& viewport, Found& found)
 {
     viewport.on = (flags & kIsOff) == 0;
     viewport.locked = (flags & kIsLocked) != 0;
+    viewport.perspective = (flags & kIsPerspective) != 0;
     found.hidesInPlot = (flags & kHidesInPlot) != 0;
     found.flags = true;
 }
 
+void addFrozenLayer(ViewportMembers& viewport, KdDbObjectId layer)
+{
+    if (layer.isKindOf(KdDbLayerTableRecord::desc()))
+        viewport.frozenLayers.push_back(layer);
+}
+
+/// Takes the group if it tells what the viewport shows of the model.
+bool takeView(RecordReader& reader, ViewportMembers& viewport)
+{
+    switch (reader.code()) {
+    case 12:
+        viewport.viewCenter = reader.point2d();
+        return true;
+    case 16:
+        viewport.viewDirection = reader.vector();
+        return true;
+    case 17:
+        viewport.viewTarget = reader.point();
+        return true;
+    case 45:
+        viewport.viewHeight = reader.real();
+        return true;
+    case 51:
+        viewport.twist = reader.angle();
+        return true;
+    case 331:
+    case 341: // R2000
+        addFrozenLayer(viewport, reader.reference());
+        return true;
+    default:
+        return false;
+    }
+}
+
 void takeGroup(RecordReader& reader, ViewportMembers& viewport, Found& found)
 {
+    if (takeView(reader, viewport))
+        return;
     switch (reader.code()) {
     case 10:
         viewport.center = reader.point();
@@ -65,9 +105,6 @@ void takeGroup(RecordReader& reader, ViewportMembers& viewport, Found& found)
         break;
     case 41:
         viewport.height = reader.real();
-        break;
-    case 45:
-        viewport.viewHeight = reader.real();
         break;
     case 68: {
         const bool on = reader.flag();
@@ -95,26 +132,66 @@ void takeGroup(RecordReader& reader, ViewportMembers& viewport, Found& found)
     }
 }
 
-/// Up to R14 the view stands in extended data: reals of which the second is its height, and
+/// Reals of the view in extended data: twist, height, and both coordinates of the centre.
+void takeViewReal(double value, int place, ViewportMembers& viewport)
+{
+    double* const members[] = {&viewport.twist, &viewport.viewHeight, &viewport.viewCenter.x,
+                               &viewport.viewCenter.y};
+    if (place < static_cast<int>(std::size(members)))
+        *members[place] = value;
+}
+
+/// The target, then the direction.
+void takeViewPoint(const double (&point)[3], int place, ViewportMembers& viewport)
+{
+    if (place == 0)
+        viewport.viewTarget = {point[0], point[1], point[2]};
+    else if (place == 1)
+        viewport.viewDirection = {point[0], point[1], point[2]};
+}
+
+KdDbObjectId layerOfName(const KdDbDatabase& database, const wchar_t* name)
+{
+    KdDbObjectId layer;
+    if (name)
+        database.table<KdDbLayerTable>().getIdAt(name, layer);
+    return layer;
+}
+
+/// Up to R14 the view stands in extended data: points, reals, the names of frozen layers, and
 /// integers of which the tenth tells if lines are hidden in print.
-void takeViewOfExtendedData(ViewportMembers& viewport, Found& found)
+void takeViewOfExtendedData(const KdDbDatabase& database, ViewportMembers& viewport, Found& found)
 {
     constexpr short kText = 1000;
+    constexpr short kLayer = 1003;
+    constexpr short kPoint = 1010;
     constexpr short kReal = 1040;
     constexpr short kInteger = 1070;
-    constexpr int kHeightPlace = 2;
     constexpr int kHidePlace = 10;
     ApplicationData data(viewport.extendedData, L"ACAD");
     const resbuf* name = data.take(kText);
     if (!name || !KdNameEqual()(name->resval.rstring ? name->resval.rstring : L"", L"MVIEW"))
         return;
+    int points = 0;
     int reals = 0;
     int integers = 0;
     for (; const resbuf* record = data.front(); data.step()) {
-        if (record->restype == kReal && ++reals == kHeightPlace)
-            viewport.viewHeight = record->resval.rreal;
-        else if (record->restype == kInteger && ++integers == kHidePlace)
-            found.hidesInPlot = record->resval.rint != 0;
+        switch (record->restype) {
+        case kPoint:
+            takeViewPoint(record->resval.rpoint, points++, viewport);
+            break;
+        case kReal:
+            takeViewReal(record->resval.rreal, reals++, viewport);
+            break;
+        case kInteger:
+            found.hidesInPlot |= ++integers == kHidePlace && record->resval.rint != 0;
+            break;
+        case kLayer:
+            addFrozenLayer(viewport, layerOfName(database, record->resval.rstring));
+            break;
+        default:
+            break;
+        }
     }
 }
 
@@ -124,7 +201,7 @@ void readViewport(RecordReader& reader, ViewportMembers& viewport)
     while (reader.next())
         takeGroup(reader, viewport, found);
     if (!found.flags && viewport.viewHeight == 0.0)
-        takeViewOfExtendedData(viewport, found);
+        takeViewOfExtendedData(reader.source().database, viewport, found);
     if (!found.shadePlot && found.hidesInPlot)
         viewport.shadePlot = kShadedAsHidden; // before there were several kinds
     if (viewport.number == 0 && isUnnumberedSheet(reader))

@@ -15,6 +15,7 @@
 #include <math.hxx>
 #include <math_Vector.hxx>
 
+#include "cubic_pieces.h"
 #include "integration.h"
 
 struct KdGeNurbCurve3d::Kernel
@@ -141,6 +142,11 @@ std::unique_ptr<KdGeNurbCurve3d> KdGeNurbCurve3d::part(double first, double last
     } catch (const Standard_Failure&) {
         return nullptr;
     }
+}
+
+std::vector<KdGeCubic3d> KdGeNurbCurve3d::cubicPieces() const
+{
+    return geometry::cubicPieces(*m_kernel->curve);
 }
 
 KdGeInterval KdGeNurbCurve3d::interval() const

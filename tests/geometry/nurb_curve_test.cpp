@@ -2,6 +2,8 @@
 
 #include <cmath>
 #include <limits>
+#include <utility>
+#include <vector>
 
 #include "support.h"
 
@@ -220,6 +222,60 @@ TEST(FitCurve, PassesOverPointsThatRepeatTheOneBefore)
     const Points plain{{0, 0, 0}, {1, 1, 0}, {2, 0, 0}};
     EXPECT_EQ(kdgeInterpolate({points, {}, {}}).controlPoints,
               kdgeInterpolate({plain, {}, {}}).controlPoints);
+}
+
+/// The point of a piece at a part of its parameters.
+KdGePoint3d pointOf(const KdGeCubic3d& piece, double t)
+{
+    const double s = 1.0 - t;
+    KdGeVector3d sum = piece[0].asVector() * (s * s * s);
+    sum = sum + piece[1].asVector() * (3.0 * s * s * t);
+    sum = sum + piece[2].asVector() * (3.0 * s * t * t);
+    sum = sum + piece[3].asVector() * (t * t * t);
+    return KdGePoint3d() + sum;
+}
+
+TEST(CubicPieces, AreTheCurveItselfUpToDegreeThree)
+{
+    const Points points{{0, 0, 0}, {1, 5, 2}, {4, 6, 1}, {7, -2, 0}, {9, 1, 3}};
+    for (const auto& [degree, knots] :
+         {std::pair{1, std::vector<double>{0, 0, 1, 2, 3, 3.5, 3.5}},
+          std::pair{2, std::vector<double>{0, 0, 0, 1, 1.5, 4, 4, 4}},
+          std::pair{3, std::vector<double>{-1, 0, 0.5, 1, 2, 3, 4, 5, 6}}}) {
+        const auto curve = KdGeNurbCurve3d::create(degree, knots, points);
+        ASSERT_TRUE(curve);
+        const std::vector<KdGeCubic3d> pieces = curve->cubicPieces();
+        std::size_t piece = 0;
+        const KdGeInterval whole = curve->interval();
+        for (std::size_t i = 0; i + 1 < knots.size(); ++i) {
+            if (knots[i] < whole.lower || knots[i + 1] > whole.upper || knots[i] == knots[i + 1])
+                continue;
+            ASSERT_LT(piece, pieces.size());
+            for (const double t : {0.0, 0.3, 0.8, 1.0})
+                EXPECT_THAT(pointOf(pieces[piece], t),
+                            IsNear(curve->evalPoint(knots[i] + t * (knots[i + 1] - knots[i]))));
+            ++piece;
+        }
+        EXPECT_EQ(piece, pieces.size());
+    }
+}
+
+TEST(CubicPieces, FollowRationalAndHigherCurvesClosely)
+{
+    const double half = std::sqrt(0.5);
+    const Points quarter{{1, 0, 0}, {1, 1, 0}, {0, 1, 0}};
+    const std::vector<double> knots{0, 0, 0, 1, 1, 1};
+    const std::vector<double> weights{1, half, 1};
+    const auto curve = KdGeNurbCurve3d::create(2, knots, quarter, weights);
+    ASSERT_TRUE(curve);
+    const std::vector<KdGeCubic3d> pieces = curve->cubicPieces();
+    EXPECT_LE(pieces.size(), 64U);
+    for (const KdGeCubic3d& piece : pieces) {
+        for (int i = 0; i <= 10; ++i)
+            EXPECT_NEAR(pointOf(piece, i / 10.0).asVector().length(), 1.0, 1.5e-7);
+    }
+    EXPECT_EQ(pieces.front()[0], (KdGePoint3d{1, 0, 0}));
+    EXPECT_THAT(pieces.back()[3], IsNear(KdGePoint3d{0, 1, 0}));
 }
 
 TEST(FitCurve, NeedsTwoPoints)

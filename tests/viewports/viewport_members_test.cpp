@@ -1,3 +1,5 @@
+#include <numbers>
+
 #include <gtest/gtest.h>
 
 #include <entities/viewport.h>
@@ -41,6 +43,56 @@ TEST(ViewportMembers, AreRead)
     EXPECT_EQ(drawn.viewport->shadePlot(), 3);
 }
 
+TEST(ViewportMembers, TellWhatIsSeenOfTheModel)
+{
+    const Drawn drawn({{12, "7"},
+                       {22, "8"},
+                       {16, "0"},
+                       {26, "-3"},
+                       {36, "4"},
+                       {17, "100"},
+                       {27, "200"},
+                       {37, "5"},
+                       {45, "50"},
+                       {51, "90"},
+                       {90, "32769"}});
+    ASSERT_NE(drawn.viewport, nullptr);
+    EXPECT_EQ(drawn.viewport->viewCenter(), (KdGePoint2d{7, 8}));
+    EXPECT_EQ(drawn.viewport->viewDirection(), (KdGeVector3d{0, -3, 4}));
+    EXPECT_EQ(drawn.viewport->viewTarget(), (KdGePoint3d{100, 200, 5}));
+    EXPECT_EQ(drawn.viewport->viewHeight(), 50);
+    EXPECT_DOUBLE_EQ(drawn.viewport->twistAngle(), std::numbers::pi / 2.0);
+    EXPECT_TRUE(drawn.viewport->isPerspectiveOn());
+    const Drawn plain({});
+    EXPECT_EQ(plain.viewport->viewDirection(), (KdGeVector3d{0, 0, 1}));
+    EXPECT_FALSE(plain.viewport->isPerspectiveOn());
+}
+
+TEST(ViewportMembers, NameTheLayersThatAreFrozenInIt)
+{
+    const Groups tables = section("TABLES", {{0, "TABLE"},
+                                             {2, "LAYER"},
+                                             {0, "LAYER"},
+                                             {5, "21"},
+                                             {2, "A"},
+                                             {70, "0"},
+                                             {0, "LAYER"},
+                                             {5, "22"},
+                                             {2, "B"},
+                                             {70, "0"},
+                                             {0, "ENDTAB"}});
+    const Groups frozen =
+        withMore(withMore(kHead, kWindow), {{331, "21"}, {341, "22"}, {331, "999"}, {331, "B1"}});
+    const ReadDrawing drawn =
+        readGroups(drawing({header("AC1018"), tables, section("ENTITIES", frozen)}));
+    const auto* viewport = drawn.entity<KdDbViewport>(0, kPaperSpaceName);
+    ASSERT_NE(viewport, nullptr);
+    ASSERT_EQ(viewport->frozenLayers().size(),
+              2U); // what is not there, or no layer, does not count
+    EXPECT_EQ(viewport->frozenLayers()[0].handle(), 0x21U);
+    EXPECT_EQ(viewport->frozenLayers()[1].handle(), 0x22U);
+}
+
 TEST(ViewportMembers, TellByTheFlagsIfItIsLockedOrOff)
 {
     EXPECT_TRUE(Drawn({{90, "16384"}}).viewport->isLocked());
@@ -75,6 +127,8 @@ TEST_P(OldViewports, HaveTheirViewInTheExtendedData)
 {
     const Drawn drawn(view("0"), GetParam());
     ASSERT_NE(drawn.viewport, nullptr);
+    EXPECT_EQ(drawn.viewport->viewCenter(), (KdGePoint2d{7, 8}));
+    EXPECT_EQ(drawn.viewport->viewDirection(), (KdGeVector3d{0, 0, 1}));
     EXPECT_EQ(drawn.viewport->customScale(), 0.25);
     EXPECT_EQ(drawn.viewport->standardScale(), KdDbViewport::k1_4);
     EXPECT_EQ(drawn.viewport->shadePlot(), 0);

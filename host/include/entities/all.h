@@ -12,6 +12,7 @@
 #include <entities/curve.h>
 #include <entities/declare.h>
 #include <entities/dimension.h>
+#include <entities/draw_order.h>
 #include <entities/dyn_block_actions.h>
 #include <entities/dyn_block_elements.h>
 #include <entities/dyn_block_parameters.h>
@@ -33,6 +34,7 @@
 #include <entities/mleader.h>
 #include <entities/mline.h>
 #include <entities/mline_style.h>
+#include <entities/modeler_edge.h>
 #include <entities/modeler_geometry.h>
 #include <entities/mtext.h>
 #include <entities/ole_frame.h>

@@ -68,8 +68,6 @@ class KW_EXPORT KdDbAttributeDefinition : public KdDbAttributeText
     bool isMTextAttributeDefinition() const { return data().lines != nullptr; }
     /// The text of several lines that references begin with, or null; it belongs to the definition.
     const KdDbMText* getMTextAttributeDefinitionConst() const { return data().lines.get(); }
-
-  protected:
     /// The tag stands where the value of a reference is going to stand, unless that can't differ.
     const KdString& shownText() const override { return isConstant() ? textString() : tag(); }
 };

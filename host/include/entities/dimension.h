@@ -38,6 +38,9 @@ class KW_EXPORT KdDbDimension : public KdDbEntity
     const KdString& dimensionText() const { return data().text; }
     KdDbObjectId dimBlockId() const { return data().block; }
 
+    /// The box around what its block draws, block references in it by the boxes of their contents.
+    KdErrorStatus getGeomExtents(KdGeExtents3d& extents) const override;
+
     /// What the dimension measures, from its points: a length in drawing units times DIMLFAC, of
     /// which a negative one counts on sheets alone, or an angle in radians. `eInvalidInput`,
     /// `value` untouched, where the points give none.

@@ -118,6 +118,17 @@ struct KW_EXPORT HatchContent
     std::vector<float> gradientValues; ///< where each colour stands, from 0 to 1
 };
 
+/// The loops around each area that the style leaves filled, by their places in `loops`: the outer
+/// one first, then the holes in it. Loops without size are missing.
+KW_EXPORT std::vector<std::vector<std::size_t>> kddbFilledLoops(const HatchContent& hatch);
+/// The lines of a pattern as far as they lie inside, family by family, in OCS.
+/// @param most   more lines are not made
+/// @param lines  untouched on failure
+/// @return       `eNotApplicable` without loops or without a pattern, `eOutOfRange` if there would
+///               be more lines
+KW_EXPORT KdErrorStatus kddbPatternLines(const HatchContent& hatch, std::size_t most,
+                                         std::vector<HatchLineEdge>& lines);
+
 struct KW_EXPORT HatchMembers : EntityMembers, HatchContent
 {
 };
@@ -127,6 +138,8 @@ class KW_EXPORT KdDbHatch : public KdDbEntity
     KD_RX_DECLARE(KdDbHatch)
     KD_DB_MEMBERS(HatchMembers)
 
+    /// All that the hatch shows.
+    const HatchContent& content() const { return data(); }
     /// Along the normal, in OCS.
     double elevation() const { return data().elevation; }
     /// In WCS, of length 1.
@@ -194,4 +207,12 @@ class KW_EXPORT KdDbHatch : public KdDbEntity
     KdErrorStatus explode(KdArray<KdDbEntity*>& pieces) const;
 };
 
-KD_DB_PLAIN_ENTITY(KdDbMPolygon, KdDbEntity)
+/// A polygon with holes, and what it is filled with.
+class KW_EXPORT KdDbMPolygon : public KdDbEntity
+{
+    KD_RX_DECLARE(KdDbMPolygon)
+    KD_DB_MEMBERS(HatchMembers)
+
+    /// Its edges and all that fills it; all loops are polylines.
+    const HatchContent& content() const { return data(); }
+};

@@ -1,6 +1,9 @@
 /// Meshes.
 #pragma once
 
+#include <utility>
+#include <vector>
+
 #include <entities/parts.h>
 #include <entities/vertex.h>
 
@@ -68,5 +71,23 @@ class KW_EXPORT KdDbPolyFaceMesh : public KdDbOwnerOfParts<KdDbEntity>
     KdErrorStatus getGeomExtents(KdGeExtents3d& extents) const override;
 };
 
+struct KW_EXPORT SubDMeshMembers : EntityMembers
+{
+    std::vector<KdGePoint3d> vertices; ///< WCS
+    /// Of each face the number of its corners and then their places in `vertices`. Numbers come
+    /// from the drawing as they are.
+    std::vector<std::int32_t> faces;
+    std::int32_t level = 0; ///< how often the faces are divided to make the mesh smooth
+};
+
 /// A mesh of subdivided faces.
-KD_DB_PLAIN_ENTITY(KdDbSubDMesh, KdDbEntity)
+class KW_EXPORT KdDbSubDMesh : public KdDbEntity
+{
+    KD_RX_DECLARE(KdDbSubDMesh)
+    KD_DB_MEMBERS(SubDMeshMembers)
+
+    const std::vector<KdGePoint3d>& vertices() const { return data().vertices; }
+    /// The edges of the faces before they are divided, each once, as pairs of places in
+    /// `vertices()`.
+    std::vector<std::pair<std::uint32_t, std::uint32_t>> edges() const;
+};

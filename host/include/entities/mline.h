@@ -15,6 +15,8 @@ struct KW_EXPORT MlineMembers : EntityMembers
     std::vector<KdGePoint3d> vertices; ///< WCS
     std::int8_t justification = 0;
     bool closed = false;
+    bool withoutStartCaps = false;
+    bool withoutEndCaps = false;
 };
 
 /// Lines side by side along one path.
@@ -43,4 +45,13 @@ class KW_EXPORT KdDbMline : public KdDbEntity
     /// A point of the path in WCS. `eInvalidInput` unless `index` is below `numVertices()`,
     /// `vertex` untouched.
     KdErrorStatus getVertexAt(int index, KdGePoint3d& vertex) const;
+    /// True if the caps that the style asks for are left out at an end.
+    bool suppressStartCaps() const { return data().withoutStartCaps; }
+    bool suppressEndCaps() const { return data().withoutEndCaps; }
+
+    /// The lines of the elements in WCS, in the order of the style, each with a point for each
+    /// vertex of the path; where the path turns they meet on the bisector. Empty without a style.
+    std::vector<std::vector<KdGePoint3d>> elementLines() const;
+    /// The box around the lines of all elements.
+    KdErrorStatus getGeomExtents(KdGeExtents3d& extents) const override;
 };

@@ -3,13 +3,21 @@
 
 #include <vector>
 
+#include <database/color.h>
 #include <database/object.h>
 
 struct KW_EXPORT MlineStyleMembers : ObjectMembers
 {
     KdString name;
     KdString description;
-    std::vector<double> offsets; ///< of the lines from the path, at scale 1
+    /// Of the lines from the path at scale 1, above 0 to its left.
+    std::vector<double> offsets;
+    std::vector<std::uint32_t> colors; ///< of the lines, words of a `KdCmColor`; missing: by layer
+    std::vector<KdDbObjectId> linetypes; ///< of the lines; missing, or null: by layer
+    double startAngle = 0.0;             ///< radians, of the caps against the path
+    double endAngle = 0.0;
+    std::uint32_t fillColor = 0xC0000000;
+    int flags = 0;
 };
 
 class KW_EXPORT KdDbMlineStyle : public KdDbObject
@@ -24,4 +32,22 @@ class KW_EXPORT KdDbMlineStyle : public KdDbObject
     const KdString& name() const { return data().name; }
     const KdString& description() const { return data().description; }
     const std::vector<double>& offsets() const { return data().offsets; }
+
+    /// Bits of `flags`, the same as in drawing files.
+    enum Flag : int
+    {
+        kFilled = 1,
+        kShowsMiters = 2,
+        kStartSquareCap = 16,
+        kStartInnerArcs = 32,
+        kStartRoundCap = 64,
+        kEndSquareCap = 256,
+        kEndInnerArcs = 512,
+        kEndRoundCap = 1024,
+    };
+    bool has(Flag flag) const { return (data().flags & flag) != 0; }
+    KdCmColor fillColor() const { return KdCmColor(data().fillColor); }
+    /// Of a line, counted from 0.
+    KdCmColor colorOf(std::size_t line) const;
+    KdDbObjectId linetypeOf(std::size_t line) const;
 };

@@ -3,8 +3,10 @@
 
 #include <functional>
 #include <string>
+#include <vector>
 
 #include <entities/declare.h>
+#include <entities/modeler_edge.h>
 
 struct KW_EXPORT ModelerGeometryMembers : EntityMembers
 {
@@ -20,6 +22,8 @@ class KW_EXPORT KdDbModelerGeometry : public KdDbEntity
 
     /// The data of the body; empty if there is none.
     std::string bodyData() const;
+    /// The edges of the body in WCS, as far as its data is understood.
+    std::vector<ModelerEdge> edges() const;
     /// Exact for plane, cylindrical and conical faces. Spheres and tori count as far as circles
     /// bound them, free surfaces by the hull of their control points. `eNotApplicable` without a
     /// body.

@@ -81,6 +81,8 @@ class KW_EXPORT KdDbMText : public KdDbEntity
     KD_RX_DECLARE(KdDbMText)
     KD_DB_MEMBERS(MTextMembers)
 
+    /// All that makes up the text, as a text inside another entity has it.
+    const MTextData& textData() const { return data(); }
     /// Gives the text with its format codes. Always succeeds.
     KdErrorStatus contents(KdString& text) const;
     /// The text as it reads: without format codes, its paragraphs separated by line feeds.

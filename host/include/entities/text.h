@@ -73,11 +73,10 @@ class KW_EXPORT KdDbText : public KdDbEntity
     /// Upside down.
     bool isMirroredInY() const { return data().mirroredInY; }
 
+    /// What stands in the drawing, codes included. Here: the text itself.
+    virtual const KdString& shownText() const { return textString(); }
+
     /// The box around the letters as they are placed, their widths taken from a plain font, since a
     /// drawing does not hold its fonts. A text without letters has none.
     KdErrorStatus getGeomExtents(KdGeExtents3d& extents) const override;
-
-  protected:
-    /// What stands in the drawing, codes included. Here: the text itself.
-    virtual const KdString& shownText() const { return textString(); }
 };

@@ -1,6 +1,8 @@
 /// The parts of polylines and meshes.
 #pragma once
 
+#include <array>
+
 #include <entities/declare.h>
 #include <geometry/point.h>
 
@@ -84,8 +86,22 @@ class KW_EXPORT KdDbPolyFaceMeshVertex : public KdDbVertex
     KdGePoint3d position() const { return data().position; }
 };
 
+struct KW_EXPORT FaceRecordMembers : VertexMembers
+{
+    /// The numbers of the corners among those of the mesh, from 1; below 0 if the edge behind the
+    /// corner is not drawn, 0 where there is no further one.
+    std::array<std::int16_t, 4> corners{};
+};
+
 /// A face of a polyface mesh.
-KD_DB_PLAIN_ENTITY(KdDbFaceRecord, KdDbVertex)
+class KW_EXPORT KdDbFaceRecord : public KdDbVertex
+{
+    KD_RX_DECLARE(KdDbFaceRecord)
+    KD_DB_MEMBERS(FaceRecordMembers)
+
+    /// See `FaceRecordMembers`.
+    const std::array<std::int16_t, 4>& corners() const { return data().corners; }
+};
 
 /// Marks the end of an entity's parts in a drawing file.
 KD_DB_PLAIN_ENTITY(KdDbSequenceEnd, KdDbEntity)

@@ -1,6 +1,8 @@
 /// Windows of a sheet that show the model.
 #pragma once
 
+#include <vector>
+
 #include <entities/declare.h>
 #include <geometry/point.h>
 
@@ -11,6 +13,11 @@ struct KW_EXPORT ViewportMembers : EntityMembers
     double width = 0.0;
     double height = 0.0;
     double viewHeight = 0.0; ///< of what is shown, in units of the model; 0: not known
+    KdGePoint2d viewCenter;  ///< in the plane of the view, units of the model
+    KdGeVector3d viewDirection{0.0, 0.0, 1.0}; ///< WCS of the model, from the target to the eye
+    KdGePoint3d viewTarget;                    ///< WCS of the model, origin of the view's plane
+    double twist = 0.0;                        ///< radians
+    std::vector<KdDbObjectId> frozenLayers;    ///< in this viewport alone
     KdDbObjectId clipEntity;
     /// 1 for the sheet itself, also in a layout that was never active and numbers none of its
     /// viewports.
@@ -19,6 +26,7 @@ struct KW_EXPORT ViewportMembers : EntityMembers
     bool on = true;
     bool locked = false;
     bool ucsPerViewport = false;
+    bool perspective = false;
     bool scaledToFit = false; ///< set by a call; no drawing tells it
 };
 
@@ -81,6 +89,21 @@ class KW_EXPORT KdDbViewport : public KdDbEntity
     KdGePoint3d centerPoint() const { return data().center; }
     double width() const { return data().width; }
     double height() const { return data().height; }
+    /// What stands in the middle of the window: a point of the view's plane, in units of the model.
+    /// The plane has its origin in the target and lies across the direction; its axes are those of
+    /// the object frame of the direction, turned back by the twist.
+    KdGePoint2d viewCenter() const { return data().viewCenter; }
+    /// The height of what is shown, in units of the model; 0 if the drawing does not tell.
+    double viewHeight() const { return data().viewHeight; }
+    /// From the target to the eye, in WCS of the model; of any length.
+    KdGeVector3d viewDirection() const { return data().viewDirection; }
+    /// In WCS of the model.
+    KdGePoint3d viewTarget() const { return data().viewTarget; }
+    /// In radians: how far the view is turned clockwise, so what is shown counter-clockwise.
+    double twistAngle() const { return data().twist; }
+    bool isPerspectiveOn() const { return data().perspective; }
+    /// The layers that are frozen in this viewport alone.
+    const std::vector<KdDbObjectId>& frozenLayers() const { return data().frozenLayers; }
     /// How it is shaded in print: 0 as displayed, 1 wireframe, 2 hidden, 3 rendered, 4 by a visual
     /// style, 5 by a preset. A damaged drawing may give other numbers.
     int shadePlot() const { return data().shadePlot; }

@@ -1,11 +1,15 @@
 /// Splines.
 #pragma once
 
+#include <array>
 #include <memory>
 #include <span>
 #include <vector>
 
 #include <geometry/curve.h>
+
+/// A Bezier curve of degree 3, from the first control point to the last.
+using KdGeCubic3d = std::array<KdGePoint3d, 4>;
 
 /// A rational or plain B-spline curve. The parameter is that of its knots.
 class KW_EXPORT KdGeNurbCurve3d : public KdGeCurve3d
@@ -24,6 +28,10 @@ class KW_EXPORT KdGeNurbCurve3d : public KdGeCurve3d
     /// The part between two parameters, run through from the first one to the last, which may be
     /// lower. Null for a part without length.
     std::unique_ptr<KdGeNurbCurve3d> part(double first, double last) const;
+
+    /// The curve as cubic pieces, one behind the other: a plain curve of a degree up to 3 exactly,
+    /// any other one so that it is off by less than a ten-millionth of its size.
+    std::vector<KdGeCubic3d> cubicPieces() const;
 
     KdGeInterval interval() const override;
     KdGePoint3d evalPoint(double parameter) const override;

@@ -181,6 +181,9 @@ struct SceneWindow
     QPolygonF clip;         ///< in the sheet
     QTransform modelToSheet;
     std::vector<std::uint32_t> frozenLayers; ///< in this window alone
+    /// True if dashes of linetypes are as long on the sheet as elsewhere on it, whatever the scale
+    /// of the window.
+    bool linetypesOfSheet = false;
     std::shared_ptr<const Scene> model;
 };
 
@@ -200,7 +203,7 @@ struct Scene
     std::vector<SceneMarker> markers;
     std::vector<SceneRay> rays;
     std::vector<SceneWindow> windows;
-    SceneBox box; ///< around all items on layers that are on and thawed
+    SceneBox box; ///< around all that is on layers that are on and thawed, rays apart
 
     std::span<const SceneShape> shapesOf(const SceneItem& item) const
     {

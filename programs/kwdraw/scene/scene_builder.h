@@ -14,7 +14,9 @@ class KdDbDatabase;
 /// @param model     the scene of the model for the windows of a sheet; may be null
 /// @param progress  called now and then with the part that is done, 0 to 1; answering false gives
 ///                  up. May be empty
+/// @param folder    of the drawing's file, where pictures of images are looked for; may be empty
 /// @return          null if `progress` gave up or `space` is no block
 std::shared_ptr<const Scene> buildScene(const KdDbDatabase& database, KdDbObjectId space,
                                         std::shared_ptr<const Scene> model,
-                                        const std::function<bool(double)>& progress);
+                                        const std::function<bool(double)>& progress,
+                                        const QString& folder = {});

@@ -5,6 +5,8 @@
 #include <QString>
 
 #include <span>
+#include <unordered_map>
+#include <vector>
 
 #include <geometry/matrix.h>
 #include <kwdraw/scene/scene.h>
@@ -33,12 +35,15 @@ class ScenePath
 };
 
 /// Takes shapes in the frame and with the look that are in force; both are set by whoever walks
-/// entities and blocks (entity_walk). Shapes with no finite place are left out.
+/// entities and blocks (entity_walk). Shapes with no finite place are left out, and so are empty
+/// ones.
 class SceneWriter
 {
   public:
     explicit SceneWriter(Scene& scene) : m_scene(scene) {}
 
+    /// What is written up to `endItem` belongs to that entity.
+    /// @param layer  of the entity itself, in `Scene::layers`
     void beginItem(KdDbObjectId id, std::uint32_t layer);
     void endItem();
 
@@ -48,6 +53,7 @@ class SceneWriter
     const KdGeMatrix3d& frame() const { return m_frame; }
     void setLook(const SceneLook& look, std::uint32_t layer);
     const SceneLook& look() const { return m_look; }
+    std::uint32_t layer() const { return m_layer; }
 
     void stroke(const ScenePath& path);
     void fill(const ScenePath& path);
@@ -55,15 +61,35 @@ class SceneWriter
     void wipeout(const ScenePath& path);
     /// @param placement  from the text's own frame, see `SceneText`, to that of the entity
     void text(const QString& text, const SceneFont& font, const KdGeMatrix3d& placement);
+    /// @param picture    null: only its place is known
     /// @param placement  from the unit square to the frame of the entity
     void image(const QImage& picture, const KdGeMatrix3d& placement, const ScenePath& shown);
     void marker(const KdGePoint3d& position, int mode, double size);
+    /// @param direction  of any length; one that points at the eye shows nothing
     void ray(const KdGePoint3d& base, const KdGeVector3d& direction, bool bothSides);
 
   private:
+    QPointF placed(const KdGePoint3d& point) const;
+    QTransform placed(const KdGeMatrix3d& placement) const;
+    /// A shape around a path that is added to the scene's; null if the path has no finite place.
+    SceneShape* addPath(SceneShape::Kind kind, const ScenePath& path);
+    /// A shape without a path; null if its box is not finite.
+    SceneShape* addPlain(SceneShape::Kind kind, const SceneBox& box);
+    SceneShape& addShape(SceneShape::Kind kind, const SceneBox& box);
+    std::uint32_t indexOf(const SceneFont& font);
+
+    struct LookHash
+    {
+        std::size_t operator()(const SceneLook& look) const;
+    };
+
     Scene& m_scene;
     KdGeMatrix3d m_frame;
     SceneLook m_look;
-    std::uint32_t m_lookIndex = 0;
+    std::uint32_t m_lookIndex = kNoLook;
     std::uint32_t m_layer = 0;
+    std::unordered_map<SceneLook, std::uint32_t, LookHash> m_looks;
+
+    /// Nothing has asked for the look in force yet, so the scene need not have it.
+    static constexpr std::uint32_t kNoLook = 0xFFFFFFFF;
 };

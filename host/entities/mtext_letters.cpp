@@ -1,8 +1,10 @@
-// The format codes of texts of several lines.
+// The letters of texts of several lines.
 #include "mtext_layout.h"
 
 #include <algorithm>
 #include <cwchar>
+
+#include <entities/text_codes.h>
 
 #include "text_metrics.h"
 
@@ -16,38 +18,31 @@ struct Look
     double tracking = 1.0; ///< stretches the distance of letters
 };
 
-class CodeReader
+class LetterReader
 {
   public:
-    CodeReader(std::wstring_view text, double textHeight)
-        : m_text(text), m_lastSemicolon(text.rfind(L';')), m_look{textHeight}
+    LetterReader(std::wstring_view text, double textHeight) : m_tokens(text), m_look{textHeight}
     {
         m_letters.reserve(text.size());
     }
 
     std::vector<MTextLetter> read()
     {
-        while (m_at < m_text.size())
-            takeNext();
+        for (MTextToken token; m_tokens.next(token);)
+            take(token);
         return std::move(m_letters);
     }
 
   private:
-    void takeNext();
-    void takeCode();
-    void takeArgumentCode(wchar_t code, std::wstring_view argument);
+    void take(const MTextToken& token);
+    void takeCode(wchar_t code, std::wstring_view argument);
     void setHeight(std::wstring_view argument);
     void takeStack(std::wstring_view fraction);
-    bool takePercent();
     void add(wchar_t letter);
     void addScaled(std::wstring_view letters, double scale);
     void endParagraph() { m_letters.push_back({L'\n', 0.0, 0.0, m_look.height}); }
-    /// What stands before the next semicolon; false, with nothing taken, if there is none.
-    bool takeArgument(std::wstring_view& argument);
 
-    std::wstring_view m_text;
-    std::size_t m_lastSemicolon; ///< so that damaged texts are not searched again and again
-    std::size_t m_at = 0;
+    MTextTokens m_tokens;
     Look m_look;
     std::vector<Look> m_outer; ///< looks to come back to at closing braces
     std::vector<MTextLetter> m_letters;
@@ -59,7 +54,7 @@ double numberOf(std::wstring_view argument)
     return std::wcstod(std::wstring(argument).c_str(), nullptr);
 }
 
-void CodeReader::add(wchar_t letter)
+void LetterReader::add(wchar_t letter)
 {
     const double advance = letterAdvance(letter) * m_look.height * m_look.widthFactor;
     const double gap = kLetterGap * m_look.height * m_look.widthFactor;
@@ -68,92 +63,40 @@ void CodeReader::add(wchar_t letter)
                          m_look.height});
 }
 
-void CodeReader::takeNext()
+void LetterReader::take(const MTextToken& token)
 {
-    switch (const wchar_t c = m_text[m_at]) {
-    case L'\\':
-        takeCode();
-        return;
-    case L'{':
+    using Kind = MTextToken::Kind;
+    switch (token.kind) {
+    case Kind::Letter:
+        add(token.letter);
+        break;
+    case Kind::Paragraph:
+    case Kind::Column:
+    case Kind::Break:
+        endParagraph();
+        break;
+    case Kind::Open:
         m_outer.push_back(m_look);
         break;
-    case L'}':
+    case Kind::Close:
         if (!m_outer.empty()) {
             m_look = m_outer.back();
             m_outer.pop_back();
         }
         break;
-    case L'\n':
-        endParagraph();
+    case Kind::Code:
+        takeCode(token.letter, token.argument);
         break;
-    case L'\r':
+    case Kind::Stack:
+        takeStack(token.argument);
         break;
-    case L'%':
-        if (takePercent())
-            return;
-        add(c);
-        break;
-    default:
-        add(c);
-    }
-    ++m_at;
-}
-
-bool CodeReader::takePercent()
-{
-    std::wstring shown;
-    if (!takePercentCode(m_text, m_at, shown))
-        return false;
-    for (const wchar_t letter : shown)
-        add(letter);
-    return true;
-}
-
-void CodeReader::takeCode()
-{
-    const wchar_t code = m_at + 1 < m_text.size() ? m_text[m_at + 1] : L'\0';
-    m_at += code ? 2 : 1;
-    switch (code) {
-    case L'P': // a paragraph, a column, a break between dimension line and text
-    case L'N':
-    case L'X':
-        endParagraph();
-        return;
-    case L'~':
-        add(0xA0);
-        return;
-    case L'L': // lines below, above and through letters, on and off
-    case L'l':
-    case L'O':
-    case L'o':
-    case L'K':
-    case L'k':
-        return;
-    case L'\0':
-        add(L'\\');
-        return;
-    default:
+    case Kind::LineSwitch: // lines along letters take no room
+    case Kind::LineToggle:
         break;
     }
-    std::wstring_view argument;
-    if (std::wstring_view(L"AHWTQCcFfpS").find(code) == std::wstring_view::npos ||
-        !takeArgument(argument))
-        add(code); // braces and the backslash itself, and what is no code
-    else
-        takeArgumentCode(code, argument);
 }
 
-bool CodeReader::takeArgument(std::wstring_view& argument)
-{
-    if (m_lastSemicolon == std::wstring_view::npos || m_at > m_lastSemicolon)
-        return false;
-    const std::size_t end = m_text.find(L';', m_at);
-    argument = m_text.substr(m_at, end - m_at);
-    m_at = end + 1;
-    return true;
-}
-
-void CodeReader::takeArgumentCode(wchar_t code, std::wstring_view argument)
+void LetterReader::takeCode(wchar_t code, std::wstring_view argument)
 {
     switch (code) {
     case L'H':
@@ -167,15 +110,12 @@ void CodeReader::takeArgumentCode(wchar_t code, std::wstring_view argument)
         if (const double factor = numberOf(argument); factor > 0.0)
             m_look.tracking = factor;
         break;
-    case L'S':
-        takeStack(argument);
-        break;
     default: // fonts, colours, slants, alignments and the like take no room
         break;
     }
 }
 
-void CodeReader::setHeight(std::wstring_view argument)
+void LetterReader::setHeight(std::wstring_view argument)
 {
     const double number = numberOf(argument);
     if (number <= 0.0)
@@ -185,7 +125,7 @@ void CodeReader::setHeight(std::wstring_view argument)
 }
 
 /// Adds letters that take `scale` of their usual room, but for their gap.
-void CodeReader::addScaled(std::wstring_view letters, double scale)
+void LetterReader::addScaled(std::wstring_view letters, double scale)
 {
     for (const wchar_t letter : letters) {
         add(letter);
@@ -195,7 +135,7 @@ void CodeReader::addScaled(std::wstring_view letters, double scale)
 }
 
 /// A fraction or a tolerance: two rows, one over the other, the wider of which takes the room.
-void CodeReader::takeStack(std::wstring_view fraction)
+void LetterReader::takeStack(std::wstring_view fraction)
 {
     constexpr double kScale = 0.7;
     const std::size_t bar = fraction.find_first_of(L"/#^");
@@ -215,5 +155,5 @@ void CodeReader::takeStack(std::wstring_view fraction)
 
 std::vector<MTextLetter> mtextLetters(std::wstring_view contents, double textHeight)
 {
-    return CodeReader(contents, textHeight).read();
+    return LetterReader(contents, textHeight).read();
 }

@@ -1,0 +1,76 @@
+#include <kwdraw/scene/scene_builder.h>
+
+#include <utility>
+
+#include <database/database.h>
+#include <kwdraw/scene/entity_walk.h>
+#include <kwdraw/scene/scene_windows.h>
+
+namespace {
+
+/// Shapes on layers that are off do not count, nor what is hidden with a frozen layer.
+SceneBox visibleBox(const Scene& scene)
+{
+    SceneBox box;
+    for (const SceneItem& item : scene.items) {
+        if (scene.layers[item.layer].frozen)
+            continue;
+        for (const SceneShape& shape : scene.shapesOf(item)) {
+            const SceneLayer& layer = scene.layers[shape.layer];
+            if (layer.on && !layer.frozen && shape.kind != SceneShape::Kind::Ray)
+                box.add(shape.box);
+        }
+    }
+    return box;
+}
+
+/// What does not change while a scene and those in its windows are built.
+struct Order
+{
+    const KdDbDatabase& database;
+    const std::function<bool(double)>& progress;
+    const QString& folder;
+};
+
+std::shared_ptr<Scene> buildFlat(const Order& order, KdDbObjectId space,
+                                 const KdGeMatrix3d& toScene)
+{
+    if (!space.isKindOf(KdDbBlockTableRecord::desc()))
+        return nullptr;
+    const OpenForRead<KdDbBlockTableRecord> record(space);
+    if (!record)
+        return nullptr;
+    auto scene = std::make_shared<Scene>();
+    EntityWalk walk(order.database, *scene, toScene, order.folder);
+    if (!walk.drawSpace(*record, order.progress))
+        return nullptr;
+    scene->box = visibleBox(*scene);
+    return scene;
+}
+
+/// True for a sheet whose linetypes are the same in all its windows.
+bool scalesLinetypes(const KdDbDatabase& database, KdDbObjectId sheet)
+{
+    const OpenForRead<KdDbBlockTableRecord> record(sheet);
+    const OpenForRead<KdDbLayout> layout(record ? record->getLayoutId() : KdDbObjectId());
+    return layout ? layout->scalesLinetypesBySheet() : database.header().integer(L"PSLTSCALE") != 0;
+}
+
+} // namespace
+
+std::shared_ptr<const Scene> buildScene(const KdDbDatabase& database, KdDbObjectId space,
+                                        std::shared_ptr<const Scene> model,
+                                        const std::function<bool(double)>& progress,
+                                        const QString& folder)
+{
+    const Order order{database, progress, folder};
+    const std::shared_ptr<Scene> scene = buildFlat(order, space, KdGeMatrix3d());
+    if (!scene)
+        return nullptr;
+    const auto makeModel = [&](const KdGeMatrix3d& toScene) {
+        return buildFlat(order, database.modelSpaceId(), toScene);
+    };
+    if (!addWindows(*scene, model, scalesLinetypes(database, space), makeModel))
+        return nullptr;
+    return scene;
+}

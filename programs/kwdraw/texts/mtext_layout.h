@@ -1,0 +1,28 @@
+/// Places all lines of a text.
+#pragma once
+
+#include <kwdraw/texts/mtext_items.h>
+#include <kwdraw/texts/text_pieces.h>
+
+struct MTextSetting
+{
+    double textHeight = 0.0;
+    double width = 0.0; ///< of a column, at which lines are broken; 0: never
+    double lineSpacingFactor = 1.0;
+    bool exactSpacing = false; ///< by the text height, whatever the letters' own
+    bool hasColumns = false;
+    double columnHeight = 0.0; ///< 0: columns end where the text says so
+    double gutter = 0.0;       ///< between columns
+    int columnCount = 1;       ///< at least
+    int mostColumns = 0;       ///< what has no room in them stays in the last; 0: any number
+    ParagraphFormat::Align align = ParagraphFormat::Align::Left; ///< of paragraphs without own
+};
+
+struct MTextLayout
+{
+    TextPieces pieces; ///< from the top left corner of the text, y upwards
+    double width = 0.0;
+    double height = 0.0;
+};
+
+MTextLayout layoutOf(const MTextItems& text, const MTextSetting& setting);
