@@ -204,6 +204,8 @@ struct Scene
     std::vector<SceneRay> rays;
     std::vector<SceneWindow> windows;
     SceneBox box; ///< around all that is on layers that are on and thawed, rays apart
+    bool isSheet = false; ///< shown on white paper, in whatever colours the windows are
+    SceneBox paper;       ///< of a sheet; empty: of unknown size
 
     std::span<const SceneShape> shapesOf(const SceneItem& item) const
     {

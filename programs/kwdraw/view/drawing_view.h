@@ -7,23 +7,7 @@
 #include <vector>
 
 #include <kwdraw/scene/scene.h>
-
-class ViewPainter;
-class PickIndex;
-
-/// What the view shows of each layer, in the order of `Scene::layers`.
-struct LayerState
-{
-    bool on = true;
-    bool frozen = false;
-};
-
-/// Where the view looks.
-struct ViewPlace
-{
-    QPointF center;             ///< drawing units
-    double unitsPerPixel = 1.0; ///< of the widget's own, device-independent pixels
-};
+#include <kwdraw/view/view_place.h>
 
 /// Shows a scene. Painting runs in a thread of its own: the widget always has a picture to show,
 /// moved and scaled to the place that is asked for until the next one is ready.
@@ -31,7 +15,8 @@ struct ViewPlace
 /// The wheel zooms at the cursor, the middle button pans, double-clicked it zooms to the extents.
 /// The left button picks: an entity, or from an empty place a box, by dragging or by two clicks;
 /// from left to right it takes what lies inside (window), from right to left also what it touches
-/// (crossing). What the view highlights is what it is told; it selects nothing by itself.
+/// (crossing). Plus, minus and the arrow keys zoom and pan. What the view highlights is what it is
+/// told; it selects nothing by itself.
 class DrawingView : public QWidget
 {
     Q_OBJECT
@@ -39,10 +24,12 @@ class DrawingView : public QWidget
     explicit DrawingView(QWidget* parent = nullptr);
     ~DrawingView() override;
 
-    /// Shows another scene, zoomed to its extents; null shows nothing. Highlights are forgotten.
+    /// Shows another scene, zoomed to its extents, which stay in view while the widget changes its
+    /// size and nobody zooms or pans. Null shows nothing. Highlights and layer states are
+    /// forgotten.
     void setScene(std::shared_ptr<const Scene> scene);
     const std::shared_ptr<const Scene>& scene() const;
-    /// One for each layer of the scene.
+    /// One for each layer of the scene; layers without are as the drawing has them.
     void setLayerStates(std::vector<LayerState> states);
     void setHighlighted(const std::vector<KdDbObjectId>& ids);
     /// Shown in another way than the highlighted ones, before the user decides.
@@ -50,6 +37,7 @@ class DrawingView : public QWidget
     void setLineweightsShown(bool shown);
 
     ViewPlace place() const;
+    /// As far as numbers allow; a place too near or too far is brought back.
     void setPlace(const ViewPlace& place);
     void zoomToExtents();
     /// Shows these entities with some room around them; does nothing if none has a size or place.
@@ -76,7 +64,8 @@ class DrawingView : public QWidget
     void cursorMoved(QPointF place);
     /// The user picked entities, to add to the selection or, with Shift, to take away.
     void picked(const std::vector<KdDbObjectId>& ids, bool takeAway);
-    /// The right button was clicked; `global` is its place on the screen.
+    /// The right button was clicked; `global` is its place on the screen. While the user is drawing
+    /// a box, the click gives up the box instead.
     void rightClicked(QPoint global);
     void placeChanged();
 
@@ -88,10 +77,28 @@ class DrawingView : public QWidget
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
     void leaveEvent(QEvent* event) override;
     void changeEvent(QEvent* event) override;
 
   private:
     struct State;
+
+    QPointF unitsAt(QPointF pixel) const;
+    void refresh();
+    void takePainted();
+    void moveTo(const ViewPlace& place);
+    void zoomAndRemember(const ViewPlace& place);
+    void zoomInSteps(QPointF pixel, double factor);
+    void showBox(const SceneBox& box);
+    void pressLeft(QPointF pixel, bool takeAway);
+    void dragLeft(QPointF pixel);
+    void releaseLeft();
+    void pickAtPress();
+    void finishBox(QPointF pixel);
+    void pickBox(QPointF pixel);
+    void hover();
+    void forgetHover();
+
     std::unique_ptr<State> m_state;
 };
