@@ -88,7 +88,8 @@ void DrawingView::setScene(std::shared_ptr<const Scene> scene)
     m_state->whenIndexed = nullptr;
     m_state->history.clear();
     m_state->showsExtents = true;
-    showBox(request.scene ? extentsOf(request) : SceneBox());
+    m_state->drawing = request.scene ? extentsOf(request) : SceneBox();
+    showBox(m_state->drawing);
 }
 
 const std::shared_ptr<const Scene>& DrawingView::scene() const
@@ -133,8 +134,7 @@ void DrawingView::setPlace(const ViewPlace& place)
 
 void DrawingView::moveTo(const ViewPlace& place)
 {
-    const Scene* shown = scene().get();
-    m_state->request.place = limited(place, shown ? extentsOf(m_state->request) : SceneBox());
+    m_state->request.place = limited(place, m_state->drawing);
     if (m_state->hoverTimer.isActive() || m_state->request.hovered)
         m_state->hoverTimer.start();
     refresh();

@@ -85,7 +85,7 @@ void DrawingView::zoomInSteps(QPointF pixel, double factor)
     m_state->lastStep.start();
     // Where the zoom ends, the drawing must not slide along below the cursor.
     ViewPlace zoomed = zoomedAt(place(), size(), pixel, factor);
-    const double nearest = limited(zoomed, scene() ? scene()->box : SceneBox()).unitsPerPixel;
+    const double nearest = limited(zoomed, m_state->drawing).unitsPerPixel;
     if (nearest != zoomed.unitsPerPixel)
         zoomed = zoomedAt(place(), size(), pixel, place().unitsPerPixel / nearest);
     setPlace(zoomed);
@@ -121,6 +121,7 @@ void DrawingView::mouseMoveEvent(QMouseEvent* event)
 {
     const QPointF pixel = event->localPos();
     m_state->cursor = pixel;
+    m_state->isInside = true;
     if (m_state->gesture == Gesture::Panning) {
         const QPointF moved = pixel - m_state->pressed;
         m_state->pressed = pixel;
@@ -244,6 +245,7 @@ void DrawingView::keyPressEvent(QKeyEvent* event)
 
 void DrawingView::leaveEvent(QEvent*)
 {
+    m_state->isInside = false;
     m_state->hoverTimer.stop();
     forgetHover();
 }
@@ -251,7 +253,8 @@ void DrawingView::leaveEvent(QEvent*)
 void DrawingView::hover()
 {
     const SceneIndex* index = m_state->index();
-    const bool free = m_state->gesture == Gesture::None && !m_state->isZoomWindow && underMouse();
+    const bool free =
+        m_state->gesture == Gesture::None && !m_state->isZoomWindow && m_state->isInside;
     const auto item = index && free
                           ? itemAt(*index, unitsAt(m_state->cursor), kAperture, m_state->pickView())
                           : std::nullopt;

@@ -28,14 +28,16 @@ struct DrawingView::State
 
     ViewRequest request; ///< what is to be seen, place included
     PaintedView painted;
+    SceneBox drawing; ///< around all of the scene, seen or not
     bool showsExtents = true;
     ZoomHistory history;
     QElapsedTimer lastStep; ///< since the wheel zoomed last
 
     Gesture gesture = Gesture::None;
-    QPointF pressed;  ///< pixel
-    QPointF cursor;   ///< pixel
-    QPointF boxStart; ///< drawing units, so that the box stays in place when the view moves
+    QPointF pressed;       ///< pixel
+    QPointF cursor;        ///< pixel
+    QPointF boxStart;      ///< drawing units, so that the box stays in place when the view moves
+    bool isInside = false; ///< the cursor
     bool takesAway = false;
     bool isZoomWindow = false;         ///< the next box is zoomed to
     std::function<void()> whenIndexed; ///< a pick that waits for the index

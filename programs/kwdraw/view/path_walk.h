@@ -24,6 +24,11 @@ inline PathView pathOf(const Scene& scene, const SceneShape& shape)
             std::span(scene.points).subspan(shape.firstPoint, shape.pointCount)};
 }
 
+inline std::size_t pointsOf(PathStep step)
+{
+    return step == PathStep::Cubic ? 3 : step == PathStep::Close ? 0 : 1;
+}
+
 /// Pixels that a flattened curve may leave the true one.
 inline constexpr double kFlatness = 0.1;
 
@@ -55,10 +60,11 @@ void walkPath(const PathView& path, const PixelFrame& frame, const ClipBox& box,
     QPointF at;
     std::size_t next = 0;
     for (const PathStep step : path.steps) {
-        if (next + static_cast<std::size_t>(step) > path.points.size())
+        const std::size_t taken = pointsOf(step);
+        if (next + taken > path.points.size())
             return;
         const QPointF* points = path.points.data() + next;
-        next += static_cast<std::size_t>(step);
+        next += taken;
         switch (step) {
         case PathStep::Move:
             start = at = frame.map(points[0]);

@@ -20,6 +20,16 @@ double extentOf(const SceneBox& box)
     return far > 0.0 ? far * 1e-3 : 1.0;
 }
 
+/// A drawing may have a point so far out that sizes overflow.
+SceneBox tamed(const SceneBox& box)
+{
+    constexpr double kFar = 1e100;
+    const auto tame = [kFar](double value) { return std::clamp(value, -kFar, kFar); };
+    if (box.isEmpty())
+        return box;
+    return {tame(box.left), tame(box.bottom), tame(box.right), tame(box.top)};
+}
+
 double farthestOf(const SceneBox& box)
 {
     if (box.isEmpty())
@@ -30,8 +40,9 @@ double farthestOf(const SceneBox& box)
 
 } // namespace
 
-ViewPlace placeAround(const SceneBox& box, QSizeF size, double room)
+ViewPlace placeAround(const SceneBox& whole, QSizeF size, double room)
 {
+    const SceneBox box = tamed(whole);
     if (box.isEmpty())
         return {};
     const double width = std::max(size.width() - 2.0 * room, size.width() / 2.0);
@@ -53,18 +64,24 @@ ViewPlace zoomedAt(const ViewPlace& place, QSizeF size, QPointF pixel, double fa
 
 ViewPlace limited(const ViewPlace& place, const SceneBox& drawing)
 {
+    // Not by the extent alone: one lost point far away must not keep the view from the rest.
+    constexpr double kUsualExtent = 1e4;
     constexpr double kNearest = 1e-9;
     constexpr double kFarthest = 1e3;
     constexpr double kDigits = 1e-14;
-    const double extent = extentOf(drawing);
-    const double least = std::max({extent * kNearest, farthestOf(drawing) * kDigits, 1e-100});
-    const double most = std::max(least, std::min(extent * kFarthest, 1e100));
-    const double reach = farthestOf(drawing) + extent * kFarthest;
+    const SceneBox box = tamed(drawing);
+    const double extent = extentOf(box);
+    const double reach = farthestOf(box) + extent * kFarthest;
     const auto within = [reach](double value) {
         return std::isfinite(value) ? std::clamp(value, -reach, reach) : 0.0;
     };
+    const QPointF center(within(place.center.x()), within(place.center.y()));
+    const double least =
+        std::max({std::min(extent, kUsualExtent) * kNearest, std::abs(center.x()) * kDigits,
+                  std::abs(center.y()) * kDigits, 1e-100});
+    const double most = std::max(least, extent * kFarthest);
     const double units = std::isfinite(place.unitsPerPixel) ? place.unitsPerPixel : 1.0;
-    return {{within(place.center.x()), within(place.center.y())}, std::clamp(units, least, most)};
+    return {center, std::clamp(units, least, most)};
 }
 
 QPointF unitsAt(const ViewPlace& place, QSizeF size, QPointF pixel)

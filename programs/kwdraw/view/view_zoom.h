@@ -20,6 +20,7 @@ ViewPlace zoomedAt(const ViewPlace& place, QSizeF size, QPointF pixel, double fa
 
 /// As near to this place as numbers allow that can still tell neighbouring pixels apart. A place
 /// that is no number becomes one.
+/// @param drawing  the box around all of it
 ViewPlace limited(const ViewPlace& place, const SceneBox& drawing);
 
 QPointF unitsAt(const ViewPlace& place, QSizeF size, QPointF pixel);
