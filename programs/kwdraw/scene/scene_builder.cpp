@@ -56,6 +56,31 @@ bool scalesLinetypes(const KdDbDatabase& database, KdDbObjectId sheet)
     return layout ? layout->scalesLinetypesBySheet() : database.header().integer(L"PSLTSCALE") != 0;
 }
 
+/// A sheet has its origin in the lower left corner of what can be printed on.
+SceneBox paperOf(const PlotSettingsMembers& plot)
+{
+    constexpr int kInches = 0;
+    const double unit = plot.units == kInches ? 1.0 / 25.4 : 1.0;
+    const bool turned = plot.rotation % 2 != 0;
+    const double width = (turned ? plot.paperHeight : plot.paperWidth) * unit;
+    const double height = (turned ? plot.paperWidth : plot.paperHeight) * unit;
+    if (!(width > 0.0 && height > 0.0))
+        return {};
+    const double left = -(turned ? plot.bottomMargin : plot.leftMargin) * unit;
+    const double bottom = -(turned ? plot.leftMargin : plot.bottomMargin) * unit;
+    return {left, bottom, left + width, bottom + height};
+}
+
+void addPaper(Scene& scene, KdDbObjectId sheet)
+{
+    const OpenForRead<KdDbBlockTableRecord> record(sheet);
+    const OpenForRead<KdDbLayout> layout(record ? record->getLayoutId() : KdDbObjectId());
+    if (!layout)
+        return;
+    scene.isSheet = true;
+    scene.paper = paperOf(layout->plotSettings());
+}
+
 } // namespace
 
 std::shared_ptr<const Scene> buildScene(const KdDbDatabase& database, KdDbObjectId space,
@@ -67,6 +92,8 @@ std::shared_ptr<const Scene> buildScene(const KdDbDatabase& database, KdDbObject
     const std::shared_ptr<Scene> scene = buildFlat(order, space, KdGeMatrix3d());
     if (!scene)
         return nullptr;
+    if (space != database.modelSpaceId())
+        addPaper(*scene, space);
     const auto makeModel = [&](const KdGeMatrix3d& toScene) {
         return buildFlat(order, database.modelSpaceId(), toScene);
     };

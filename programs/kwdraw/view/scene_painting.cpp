@@ -68,7 +68,7 @@ class DrawingPainter
 
     void paint(const SceneIndex& index, const PixelFrame& frame)
     {
-        paint(index, frame, m_style.clip, LayerFilter(*index.scene(), layers()));
+        paint(index, frame, frame.scale(), m_style.clip, LayerFilter(*index.scene(), layers()));
     }
 
   private:
@@ -78,12 +78,12 @@ class DrawingPainter
                                 : std::span<const LayerState>();
     }
 
-    void paint(const SceneIndex& index, const PixelFrame& frame, const ClipBox& visible,
-               const LayerFilter& filter)
+    void paint(const SceneIndex& index, const PixelFrame& frame, double dashScale,
+               const ClipBox& visible, const LayerFilter& filter)
     {
         std::vector<Rank> ranks;
         index.find(frame.unmapped(visible), m_style.viewHeight / frame.scale(), ranks);
-        m_shapes.enter(*index.scene(), frame);
+        m_shapes.enter(*index.scene(), frame, dashScale);
         std::vector<std::size_t> windows = windowOrder(*index.scene());
         auto window = windows.begin();
         for (const Rank rank : ranks) {
@@ -135,10 +135,11 @@ class DrawingPainter
         LayerFilter filter(*model->scene(), layers());
         filter.freeze(window.frozenLayers);
         const QRectF box = shown.boundingRect();
-        paint(*model, frame.within(window.modelToSheet),
+        const PixelFrame inner = frame.within(window.modelToSheet);
+        paint(*model, inner, window.linetypesOfSheet ? frame.scale() : inner.scale(),
               {box.left(), box.top(), box.right(), box.bottom()}, filter);
         m_painter.restore();
-        m_shapes.enter(*sheet.scene(), frame);
+        m_shapes.enter(*sheet.scene(), frame, frame.scale());
     }
 
     QPainter& m_painter;
@@ -226,7 +227,7 @@ void paintMarked(QPainter& painter, const MarkedItems& marked, const SceneIndex&
     style.marked = marked.color;
     style.lineweights = false;
     ShapePainter shapes(painter, style, glyphs);
-    shapes.enter(scene, frame);
+    shapes.enter(scene, frame, frame.scale());
     for (const std::uint32_t number : marked.items) {
         if (cancelled.load(std::memory_order_relaxed))
             return;

@@ -39,12 +39,13 @@ ShapePainter::ShapePainter(QPainter& painter, const PaintStyle& style, GlyphStor
 {
 }
 
-void ShapePainter::enter(const Scene& scene, const PixelFrame& frame)
+void ShapePainter::enter(const Scene& scene, const PixelFrame& frame, double dashScale)
 {
     flush();
     m_scene = &scene;
     m_frame = frame;
     m_scale = frame.scale();
+    m_dashScale = dashScale;
     m_pens.clear();
     for (const SceneLook& look : scene.looks)
         m_pens.push_back(penOf(look));
@@ -138,7 +139,7 @@ bool ShapePainter::paintSmall(const SceneShape& shape)
 
 void ShapePainter::strokePath(const PathView& path, const PixelFrame& frame, const SceneLook& look)
 {
-    const double dashScale = look.linetypeScale * m_scale;
+    const double dashScale = look.linetypeScale * m_dashScale;
     const bool dashed =
         look.linetype >= 0 && static_cast<std::size_t>(look.linetype) < m_scene->linetypes.size() &&
         DashedLine::isVisible(m_scene->linetypes[static_cast<std::size_t>(look.linetype)],

@@ -35,7 +35,8 @@ class ShapePainter
     ShapePainter(QPainter& painter, const PaintStyle& style, GlyphStore& glyphs);
 
     /// Goes on with shapes of this scene, in this frame.
-    void enter(const Scene& scene, const PixelFrame& frame);
+    /// @param dashScale  pixels for one unit of the dashes of linetypes
+    void enter(const Scene& scene, const PixelFrame& frame, double dashScale);
     void paint(const SceneShape& shape);
     void flush();
 
@@ -67,6 +68,7 @@ class ShapePainter
     const Scene* m_scene = nullptr;
     PixelFrame m_frame;
     double m_scale = 1.0;
+    double m_dashScale = 1.0;
     std::vector<Pen> m_pens; ///< of the looks of the scene
     StrokeRuns m_runs;       ///< not yet painted, in `m_pen`
     std::vector<QLineF> m_lines;
