@@ -122,12 +122,14 @@ void zoomFrame(benchmark::State& state)
     view.show();
     view.setScene(madeScene(entities(state)));
     view.renderedPicture();
+    QApplication::processEvents();
     int direction = 1;
     for (auto _ : state) {
         QWheelEvent event(QPointF(500, 400), QPointF(500, 400), {}, {0, 120 * direction},
                           Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
         QApplication::sendEvent(&view, &event);
         view.repaint();
+        QApplication::processEvents();
         direction = -direction;
     }
 }

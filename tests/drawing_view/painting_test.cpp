@@ -444,11 +444,10 @@ TEST_F(Painting, MarksWhatIsUnderTheCursor)
     maker.item();
     maker.line({50, 100.5}, {150, 100.5});
     show(maker.finish());
-    QTest::mouseMove(view.get(), at(90, 110));
-    QTest::mouseMove(view.get(), at(100, 102));
+    moveTo(at(100, 102));
     const auto seen = [this] { return view->grab().toImage().pixel(at(120, 103)); };
     EXPECT_TRUE(waitUntil([&seen] { return !isGround(seen()); }));
-    QTest::mouseMove(view.get(), at(100, 160));
+    moveTo(at(100, 160));
     EXPECT_TRUE(waitUntil([&seen] { return isGround(seen()); }));
 }
 

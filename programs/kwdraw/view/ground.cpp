@@ -59,7 +59,7 @@ QColor Ground::painted(const SceneLook& look) const
         front.setAlpha(own.alpha());
         return front;
     }
-    constexpr double kLegible = 1.8;
+    constexpr double kLegible = 2.4;
     constexpr int kSteps = 10;
     QColor shown = own;
     for (int step = 1; step <= kSteps && contrast(shown, color) < kLegible; ++step)

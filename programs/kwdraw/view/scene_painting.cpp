@@ -225,7 +225,6 @@ void paintMarked(QPainter& painter, const MarkedItems& marked, const SceneIndex&
     const PixelFrame frame = frameOf(request, corner);
     const SceneBox visible = frame.unmapped(style.clip);
     style.marked = marked.color;
-    style.lineweights = false;
     ShapePainter shapes(painter, style, glyphs);
     shapes.enter(scene, frame, frame.scale());
     for (const std::uint32_t number : marked.items) {

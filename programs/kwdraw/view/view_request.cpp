@@ -29,10 +29,11 @@ bool sameButForPlace(ViewLayer layer, const ViewRequest& first, const ViewReques
     const bool sameDrawing = first.scene == second.scene && first.size == second.size &&
                              first.pixelRatio == second.pixelRatio &&
                              first.margin == second.margin && first.isDark == second.isDark &&
+                             first.lineweights == second.lineweights &&
                              first.layers == second.layers;
     switch (layer) {
     case ViewLayer::Drawing:
-        return sameDrawing && first.lineweights == second.lineweights;
+        return sameDrawing;
     case ViewLayer::Marks:
         return sameDrawing && first.highlighted == second.highlighted &&
                first.previewed == second.previewed;

@@ -71,7 +71,7 @@ ViewPlace limited(const ViewPlace& place, const SceneBox& drawing)
     constexpr double kDigits = 1e-14;
     const SceneBox box = tamed(drawing);
     const double extent = extentOf(box);
-    const double reach = farthestOf(box) + extent * kFarthest;
+    const double reach = 10.0 * farthestOf(box) + extent * kFarthest;
     const auto within = [reach](double value) {
         return std::isfinite(value) ? std::clamp(value, -reach, reach) : 0.0;
     };
