@@ -370,6 +370,25 @@ TEST_F(Painting, ShowsTheModelThroughTheWindowsOfASheet)
     EXPECT_EQ(picks[0].ids, std::vector{madeId(0)});
 }
 
+TEST_F(Painting, MakesDashesInWindowsAsLongAsTheSheetSays)
+{
+    SceneMaker model;
+    model.dashes({20, -20});
+    model.line({0, 1005}, {4000, 1005}); // a tenth of it: from 0 to 400
+    const auto shown = model.finish();
+    for (const bool ofSheet : {true, false}) {
+        SceneMaker sheet;
+        sheet.scene().isSheet = true;
+        sheet.window(square(0, 0, 300), QTransform::fromScale(0.1, 0.1), shown);
+        sheet.scene().windows[0].linetypesOfSheet = ofSheet;
+        show(sheet.finish());
+        const QRgb paper = colorAt(150, 250);
+        EXPECT_GT(difference(strongestNear(50, 101, 3, paper), paper), 100);
+        // Dashes of 20 pixels leave a gap here; those of 2 pixels leave none so wide.
+        EXPECT_EQ(difference(strongestNear(70, 101, 3, paper), paper) == 0, ofSheet);
+    }
+}
+
 TEST_F(Painting, HighlightsInBothThemes)
 {
     SceneMaker maker;

@@ -1,5 +1,6 @@
 #include <kwdraw/scene/scene_builder.h>
 
+#include <cmath>
 #include <utility>
 
 #include <database/database.h>
@@ -57,12 +58,17 @@ bool scalesLinetypes(const KdDbDatabase& database, KdDbObjectId sheet)
 }
 
 /// A sheet has its origin in the lower left corner of what can be printed on.
-SceneBox paperOf(const PlotSettingsMembers& plot)
+SceneBox paperOf(const LayoutMembers& plot)
 {
     constexpr int kInches = 0;
-    const double unit = plot.units == kInches ? 1.0 / 25.4 : 1.0;
+    constexpr double kAlike = 0.01;
     const bool turned = plot.rotation % 2 != 0;
-    const double width = (turned ? plot.paperHeight : plot.paperWidth) * unit;
+    const double millimetres = turned ? plot.paperHeight : plot.paperWidth;
+    // Some sheets say inches and have their limits, which are those of the paper, in millimetres.
+    const double limits = plot.limitsMaximum.x - plot.limitsMinimum.x;
+    const bool isMetric = std::abs(limits - millimetres) <= kAlike * millimetres;
+    const double unit = plot.units == kInches && !isMetric ? 1.0 / 25.4 : 1.0;
+    const double width = millimetres * unit;
     const double height = (turned ? plot.paperWidth : plot.paperHeight) * unit;
     if (!(width > 0.0 && height > 0.0))
         return {};
@@ -78,7 +84,7 @@ void addPaper(Scene& scene, KdDbObjectId sheet)
     if (!layout)
         return;
     scene.isSheet = true;
-    scene.paper = paperOf(layout->plotSettings());
+    scene.paper = paperOf(layout->settings());
 }
 
 } // namespace
