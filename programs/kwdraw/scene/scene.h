@@ -203,7 +203,7 @@ struct Scene
     std::vector<SceneMarker> markers;
     std::vector<SceneRay> rays;
     std::vector<SceneWindow> windows;
-    SceneBox box; ///< around all that is on layers that are on and thawed, rays apart
+    SceneBox box;         ///< around all that is on layers that are on and thawed, rays apart
     bool isSheet = false; ///< shown on white paper, in whatever colours the windows are
     SceneBox paper;       ///< of a sheet; empty: of unknown size
 
