@@ -34,6 +34,12 @@ bool takeColumns(RecordReader& reader, MTextData& text)
     case 45:
         text.columns.gutter = reader.real();
         return true;
+    case 46: {
+        constexpr std::size_t kMostColumns = 1000;
+        if (text.columns.heights.size() < kMostColumns)
+            text.columns.heights.push_back(reader.real());
+        return true;
+    }
     case 71:
         text.columns.type = static_cast<KdDb::MTextColumnType>(reader.shortInteger());
         return true;

@@ -1,6 +1,8 @@
 /// Texts of several lines.
 #pragma once
 
+#include <vector>
+
 #include <entities/declare.h>
 #include <geometry/extents.h>
 
@@ -46,6 +48,7 @@ struct KW_EXPORT MTextData
         std::int16_t count = 0;
         double width = 0.0;
         double gutter = 0.0;
+        std::vector<double> heights; ///< where columns have their own; 0: as high as need be
     };
 
     KdString contents;                  ///< with format codes

@@ -58,14 +58,6 @@ LineElement LineFiller::elementOf(const MTextItem& item) const
     return element;
 }
 
-LineElement LineFiller::part(const LineElement& element, int from, int to) const
-{
-    LineElement part = element;
-    part.letters = element.letters.mid(from, to - from);
-    part.width = widthOf(lookOf(element), part.letters);
-    return part;
-}
-
 bool LineFiller::hasRoomFor(double width) const
 {
     constexpr double kNear = 1e-6; // a width that was measured from the same letters must do

@@ -5,7 +5,7 @@
 
 #include <kwdraw/texts/text_lines.h>
 
-/// A word or a part of one, a run of blanks, or a stack.
+/// A word, a run of blanks, or a stack.
 struct LineElement
 {
     QString letters;
@@ -26,7 +26,6 @@ class LineFiller
     std::uint32_t format() const { return m_format; }
 
     LineElement elementOf(const MTextItem& item) const;
-    LineElement part(const LineElement& element, int from, int to) const;
 
     bool isEmpty() const { return m_elements.empty() && !m_hasTabs; }
     bool hasRoomFor(double width) const;

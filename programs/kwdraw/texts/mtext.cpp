@@ -41,12 +41,14 @@ MTextSetting settingOf(const MTextData& text, bool isDown)
     setting.exactSpacing = text.lineSpacingStyle == KdDb::kExactly;
     if (text.lineSpacingFactor > 0.0)
         setting.lineSpacingFactor = std::clamp(text.lineSpacingFactor, kLeastSpacing, kMostSpacing);
+    setting.isDown = isDown;
     setting.align = kAligns[isDown ? attachment.row : attachment.column];
     setting.hasColumns = text.columns.type != KdDb::kNoColumns && text.columns.width > 0.0;
     if (setting.hasColumns) {
         setting.width = text.columns.width;
         setting.gutter = text.columns.gutter;
         setting.columnHeight = text.height;
+        setting.columnHeights = text.columns.heights;
         setting.columnCount = std::clamp<int>(text.columns.count, 1, kMostColumns);
         setting.mostColumns = text.columns.type == KdDb::kStaticColumns ? setting.columnCount : 0;
     }
@@ -107,13 +109,14 @@ void writeMText(const MTextData& text, SceneWriter& writer)
         text.flow == KdDb::kTopToBottom || (text.flow == KdDb::kFlowByStyle && look.isDown);
     MTextItems items = mtextItems(text.contents, look);
     const MTextSetting setting = settingOf(text, look.isDown);
-    const bool hasOneColumn = !setting.hasColumns && !look.isDown;
-    const MTextLayout layout = fittedLayout(items, setting, hasOneColumn ? text.actualHeight : 0.0);
+    const MTextLayout layout = fittedLayout(items, setting, look.isDown ? 0.0 : text.actualHeight);
 
     const Attachment attachment(text);
     const double left = -layout.width * (look.isDown ? attachment.row : attachment.column) / 2.0;
-    const double top = layout.height * (look.isDown ? 2 - attachment.column : attachment.row) / 2.0;
+    const double top = look.isDown ? -layout.height * attachment.column / 2.0
+                                   : layout.height * attachment.row / 2.0;
+    const double below = look.isDown ? top : top - layout.height;
     TextPen pen(writer, frameOf(text, look.isDown));
-    writeGround(text, {left, top - layout.height, left + layout.width, top}, pen);
+    writeGround(text, {left, below, left + layout.width, below + layout.height}, pen);
     pen.pieces(layout.pieces, items.looks, left, top);
 }

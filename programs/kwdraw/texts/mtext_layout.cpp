@@ -44,7 +44,8 @@ class LinePlacer
             startColumn();
         m_base = baseOf(line);
         const double left = m_column * (m_width + m_set.gutter);
-        m_layout.pieces.add(line.pieces, left + shiftOf(line), -m_base);
+        const double y = m_set.isDown ? m_base - line.height : -m_base;
+        m_layout.pieces.add(line.pieces, left + shiftOf(line), y);
         m_layout.height = std::max(m_layout.height, m_base + std::max(line.depth, line.below));
         m_above = &line;
     }
@@ -62,18 +63,25 @@ class LinePlacer
     bool hasRoomFor(const TextLine& line) const
     {
         constexpr double kNear = 1e-6;
-        return !m_set.hasColumns || !(m_set.columnHeight > 0.0) ||
-               baseOf(line) <= m_set.columnHeight * (1.0 + kNear);
+        const double height = columnHeight();
+        return !m_set.hasColumns || !(height > 0.0) || baseOf(line) <= height * (1.0 + kNear);
+    }
+
+    double columnHeight() const
+    {
+        const auto column = static_cast<std::size_t>(m_column);
+        return column < m_set.columnHeights.size() ? m_set.columnHeights[column]
+                                                   : m_set.columnHeight;
     }
 
     /// How far below the top of its column a line has its base line.
     double baseOf(const TextLine& line) const
     {
-        constexpr double kUsualDistance = 5.0 / 3.0;
+        const double usualDistance = m_set.isDown ? 4.0 / 3.0 : 5.0 / 3.0;
         if (!m_above)
             return line.above + line.height;
         const double height = m_set.exactSpacing ? m_set.textHeight : line.height;
-        double distance = height * kUsualDistance * m_set.lineSpacingFactor;
+        double distance = height * usualDistance * m_set.lineSpacingFactor;
         if (!m_set.exactSpacing)
             distance += line.above + m_above->below;
         if (line.startsParagraph)

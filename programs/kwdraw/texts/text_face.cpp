@@ -17,7 +17,8 @@ namespace {
 const QString kPlainFamily = QStringLiteral("DejaVu Sans");
 const QString kSmallLetters = QStringLiteral("abcdefghijklmnopqrstuvwxyz");
 
-/// How wide the alphabet in small letters is in a font, for capitals 1 high.
+/// How wide the alphabet in small letters is in a font, for capitals 1 high. Of a font whose
+/// letters are all about as wide: what gives small and capital letters the right width on average.
 struct WidthRow
 {
     const char* name; ///< in small letters
@@ -27,7 +28,7 @@ struct WidthRow
 constexpr double kUsualStrokeWidth = 21.0;
 
 constexpr WidthRow kShapeFonts[] = {
-    {"txt", 25.0},      {"monotxt", 26.0}, {"simplex", 21.0}, {"romans", 21.0}, {"romand", 21.0},
+    {"txt", 22.5},      {"monotxt", 26.0}, {"simplex", 21.0}, {"romans", 21.0}, {"romand", 21.0},
     {"romanc", 21.3},   {"romant", 21.3},  {"complex", 21.3}, {"italic", 21.3}, {"italicc", 21.3},
     {"scripts", 18.5},  {"isocp", 17.2},   {"isocp2", 17.2},  {"isocp3", 17.2}, {"isoct", 17.2},
     {"iso", 17.2},      {"gbenor", 17.2},  {"gbeitc", 17.2},  {"gost", 17.2},   {"isocpeur", 17.2},

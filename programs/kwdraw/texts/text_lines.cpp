@@ -48,6 +48,7 @@ class LineSetter
             break;
         case Kind::ParagraphEnd:
             takeWord();
+            m_blanks.clear();
             m_filler.setEmptyLook(item.look);
             endLine(true);
             break;
@@ -71,43 +72,13 @@ class LineSetter
     {
         if (m_word.empty())
             return;
-        const double blanks = widthOf(m_blanks);
-        const double word = widthOf(m_word);
-        if (!m_filler.hasRoomFor(blanks + word) && !m_filler.isEmpty())
+        const bool isFirst = m_filler.isEmpty() && m_blanks.empty();
+        if (!isFirst && !m_filler.hasRoomFor(widthOf(m_blanks) + widthOf(m_word)))
             endLine(false); // blanks at the break belong to the line above
         takeBlanks();
-        if (m_filler.hasRoomFor(word))
-            addWhole();
-        else
-            addBroken();
-        m_word.clear();
-    }
-
-    void addWhole()
-    {
         for (const LineElement& element : m_word)
             m_filler.add(element);
-    }
-
-    /// A word that is wider than a line: as many letters as fit, one at least, into each line.
-    void addBroken()
-    {
-        for (const LineElement& element : m_word) {
-            for (int at = 0; at < element.letters.size();) {
-                const int end = letterEnd(element.letters, at);
-                addUnbroken(m_filler.part(element, at, end));
-                at = end;
-            }
-            if (element.stack)
-                addUnbroken(element);
-        }
-    }
-
-    void addUnbroken(const LineElement& element)
-    {
-        if (!m_filler.hasRoomFor(element.width) && !m_filler.isEmpty())
-            endLine(false);
-        m_filler.add(element);
+        m_word.clear();
     }
 
     void endColumn()
@@ -123,6 +94,8 @@ class LineSetter
 
     void endLine(bool endsParagraph)
     {
+        if (!m_blanks.empty())
+            m_filler.setEmptyLook(m_blanks.back().look);
         TextLine& line = m_lines.emplace_back(m_filler.take(endsParagraph));
         line.startsParagraph = m_startsParagraph;
         line.endsParagraph = endsParagraph;

@@ -20,6 +20,6 @@ struct TextLine
     bool endsColumn = false;
 };
 
-/// @param width  at which lines are broken, at blanks and inside words that are wider by
-///               themselves; 0: at the ends of paragraphs alone
+/// @param width  at which lines are broken; 0: at the ends of paragraphs alone. Words are never
+///               broken, so one that is wider by itself reaches out of its column
 std::vector<TextLine> linesOf(const MTextItems& text, double width);

@@ -8,7 +8,7 @@
 namespace {
 
 /// From one letter to the next below it, in heights of the letters.
-constexpr double kColumnStep = 1.5;
+constexpr double kColumnStep = 4.0 / 3.0;
 
 double widthOfSymbols(const TextLook& look, const QString& letters)
 {
