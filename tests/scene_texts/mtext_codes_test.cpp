@@ -130,13 +130,14 @@ TEST_F(MTextCodes, EndWithTheirGroup)
 TEST_F(MTextCodes, ChooseFaces)
 {
     const auto all = shown(L"{\\fDejaVu Serif|b1|i1|c0|p18;a}{\\fDejaVu Serif|b0|i0;b}"
-                           L"{\\Fsimplex.shx,bigfont.shx;c}{\\f;d}");
+                           L"{\\Fisocp.shx,bigfont.shx;c}{\\f;d}");
     ASSERT_THAT(all, SizeIs(4));
     EXPECT_TRUE(all[0].font.bold);
     EXPECT_TRUE(all[0].font.italic);
     EXPECT_FALSE(all[1].font.bold);
     EXPECT_EQ(all[0].font.family, faceOfFamily(L"DejaVu Serif", true, true).font.family);
-    EXPECT_EQ(all[2].font, faceOfFile(L"simplex").font);
+    EXPECT_EQ(all[2].font, faceOfFile(L"isocp").font);
+    EXPECT_LT(all[2].end.x() - all[2].start.x(), 2.0 * plainWidth("c"));
     EXPECT_EQ(all[3].font, faceOf(nullptr).font);
 }
 

@@ -72,18 +72,20 @@ TEST(Lines, EndBeforeTheirTrailingBlanks)
 TEST(Lines, AreNotBrokenAtBlanksThatHold)
 {
     const auto lines = linesOf(L"a one\\~two", plainWidth("a one") + 0.1);
-    EXPECT_THAT(lettersOf(lines), ElementsAre("a", testing::_, testing::_));
+    EXPECT_THAT(lettersOf(lines), ElementsAre("a", "one two"));
 }
 
-TEST(Lines, BreakWordsThatAreWiderByThemselves)
+TEST(Lines, LetWordsThatAreWiderReachOut)
 {
-    const auto lines = linesOf(L"x aaaaaaa b", plainWidth("aaa") + 0.01);
-    EXPECT_THAT(lettersOf(lines), ElementsAre("x", "aaa", "aaa", "a b"));
+    const auto lines = linesOf(L"x aaaaaaa b", plainWidth("aaa"));
+    EXPECT_THAT(lettersOf(lines), ElementsAre("x", "aaaaaaa", "b"));
+    EXPECT_THAT(lettersOf(linesOf(L"abc d", 0.01)), ElementsAre("abc", "d"));
 }
 
-TEST(Lines, HoldOneLetterAtLeast)
+TEST(Lines, MayHoldNothingButBlanksBeforeAWordWithoutRoom)
 {
-    EXPECT_THAT(lettersOf(linesOf(L"abc", 0.01)), ElementsAre("a", "b", "c"));
+    const auto lines = linesOf(L"   one", plainWidth("one") + 0.01);
+    EXPECT_THAT(lettersOf(lines), ElementsAre("", "one"));
 }
 
 TEST(Lines, KeepWordsOfSeveralLooksTogether)
@@ -140,9 +142,16 @@ TEST(Lines, FillTheirColumnWhereTheyAreJustified)
     const auto lines = linesOf(L"\\pqj;a b c dddddddddd e", width);
     ASSERT_EQ(lines.size(), 3U);
     const TextRun& last = lines[0].pieces.runs.back();
-    EXPECT_EQ(last.letters, "c");
+    EXPECT_EQ(last.letters, QString("c"));
     EXPECT_NEAR(last.x + last.width, width, kNear);
     EXPECT_LT(lines[2].end, width / 2.0); // the last line stands as it is
+}
+
+TEST(Lines, DrawLinesAlongWidenedBlanks)
+{
+    const auto lines = linesOf(L"\\pqd;a b", 20.0);
+    EXPECT_THAT(lettersOf(lines), ElementsAre("a |b"));
+    EXPECT_NEAR(lines[0].pieces.runs[0].width, 20.0 - plainWidth("b"), kNear);
 }
 
 TEST(Lines, FillTheirColumnToTheLastWhereTheyAreDistributed)
@@ -164,6 +173,14 @@ TEST(Lines, MarkTheEndOfAColumnOnce)
     const auto lines = linesOf(L"a\\P\\Nb\\Nc", 0.0);
     EXPECT_THAT(lettersOf(lines), ElementsAre("a", "b", "c"));
     EXPECT_TRUE(lines[0].endsColumn);
+    EXPECT_TRUE(lines[1].endsColumn);
+    EXPECT_FALSE(lines[2].endsColumn);
+}
+
+TEST(Lines, MayLeaveColumnsEmpty)
+{
+    const auto lines = linesOf(L"a\\N\\N\\Pb", 0.0);
+    EXPECT_THAT(lettersOf(lines), ElementsAre("a", "", "", "b"));
     EXPECT_TRUE(lines[1].endsColumn);
     EXPECT_FALSE(lines[2].endsColumn);
 }

@@ -112,6 +112,7 @@ void LineFiller::spread(bool endsParagraph)
         element.x += shift;
         if (element.isBlank) {
             element.width += extra;
+            element.isSpread = true;
             shift += extra;
         }
     }
@@ -145,9 +146,10 @@ double LineFiller::placeOf(const LineElement& element, double lineHeight) const
     }
 }
 
-void LineFiller::addPiece(const LineElement& element, TextLine& line) const
+/// Adds an element to a line; letters that go on as those before them do, to their run.
+void LineFiller::addPiece(const LineElement& element, const LineElement* before,
+                          TextLine& line) const
 {
-    constexpr double kNear = 1e-9;
     const double y = placeOf(element, line.height);
     if (element.stack) {
         line.pieces.add(element.stack->pieces, element.x, y);
@@ -156,16 +158,15 @@ void LineFiller::addPiece(const LineElement& element, TextLine& line) const
         return;
     }
     line.depth = std::max(line.depth, depthOf(lookOf(element), element.letters) - y);
-    if (!line.pieces.runs.empty()) {
-        TextRun& last = line.pieces.runs.back();
-        if (last.look == element.look && last.y == y &&
-            std::fabs(last.x + last.width - element.x) <= kNear * line.height) {
-            last.letters += element.letters;
-            last.width += element.width;
-            return;
-        }
+    const bool goesOn = before && !before->stack && !before->isSpread &&
+                        before->look == element.look && before->x + before->width == element.x;
+    if (goesOn) {
+        TextRun& run = line.pieces.runs.back();
+        run.letters += element.letters;
+        run.width += element.width;
+    } else {
+        line.pieces.runs.push_back({element.letters, element.look, element.x, y, element.width});
     }
-    line.pieces.runs.push_back({element.letters, element.look, element.x, y, element.width});
 }
 
 TextLine LineFiller::take(bool endsParagraph)
@@ -180,8 +181,11 @@ TextLine LineFiller::take(bool endsParagraph)
     line.format = m_format;
     line.end = m_x;
     line.height = lineHeight();
-    for (const LineElement& element : m_elements)
-        addPiece(element, line);
+    const LineElement* before = nullptr;
+    for (const LineElement& element : m_elements) {
+        addPiece(element, before, line);
+        before = &element;
+    }
     m_elements.clear();
     return line;
 }

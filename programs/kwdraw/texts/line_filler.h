@@ -13,6 +13,7 @@ struct LineElement
     double x = 0.0;
     double width = 0.0;
     bool isBlank = false;
+    bool isSpread = false;            ///< wider than its letters
     const TextStack* stack = nullptr; ///< null: letters
 };
 
@@ -42,7 +43,7 @@ class LineFiller
     void spread(bool endsParagraph);
     double lineHeight() const;
     double placeOf(const LineElement& element, double lineHeight) const;
-    void addPiece(const LineElement& element, TextLine& line) const;
+    void addPiece(const LineElement& element, const LineElement* before, TextLine& line) const;
     const TextLook& lookOf(const LineElement& element) const { return m_text.looks[element.look]; }
 
     /// A stop that what follows is centred at or ends at.

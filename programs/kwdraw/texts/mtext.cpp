@@ -37,13 +37,14 @@ MTextSetting settingOf(const MTextData& text, bool isDown)
     const Attachment attachment(text);
     MTextSetting setting;
     setting.textHeight = text.textHeight;
-    setting.width = std::max(0.0, text.width);
+    setting.width = isDown ? 0.0 : std::max(0.0, text.width); // lines that run down have no end
     setting.exactSpacing = text.lineSpacingStyle == KdDb::kExactly;
     if (text.lineSpacingFactor > 0.0)
         setting.lineSpacingFactor = std::clamp(text.lineSpacingFactor, kLeastSpacing, kMostSpacing);
     setting.isDown = isDown;
     setting.align = kAligns[isDown ? attachment.row : attachment.column];
-    setting.hasColumns = text.columns.type != KdDb::kNoColumns && text.columns.width > 0.0;
+    setting.hasColumns =
+        !isDown && text.columns.type != KdDb::kNoColumns && text.columns.width > 0.0;
     if (setting.hasColumns) {
         setting.width = text.columns.width;
         setting.gutter = text.columns.gutter;

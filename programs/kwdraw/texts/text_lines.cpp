@@ -83,8 +83,10 @@ class LineSetter
 
     void endColumn()
     {
-        if (m_filler.isEmpty() && m_startsParagraph && !m_lines.empty()) {
-            m_lines.back().endsColumn = true; // nothing stands behind the paragraph above
+        const bool isBehindParagraph =
+            m_startsParagraph && !m_lines.empty() && !m_lines.back().endsColumn;
+        if (isBehindParagraph && m_filler.isEmpty() && m_blanks.empty()) {
+            m_lines.back().endsColumn = true; // nothing stands in a line of its own
             m_isFresh = true;
             return;
         }

@@ -74,23 +74,23 @@ void TextPen::useColor(std::uint32_t word)
     m_writer.setLook(look, m_layer);
 }
 
-void TextPen::letters(const TextLook& look, const QString& letters, double x, double y)
+void TextPen::run(const TextLook& look, const TextRun& run, double x, double y)
 {
     useColor(look.color);
-    run(look, letters, x, y);
-    linesAlong(look, x, y, widthOf(look, letters));
+    letters(look, run.letters, x + run.x, y + run.y);
+    linesAlong(look, x + run.x, y + run.y, run.width);
 }
 
 void TextPen::pieces(const TextPieces& pieces, const std::vector<TextLook>& looks, double x,
                      double y)
 {
-    for (const TextRun& run : pieces.runs)
-        letters(looks[run.look], run.letters, x + run.x, y + run.y);
+    for (const TextRun& one : pieces.runs)
+        run(looks[one.look], one, x, y);
     for (const TextBar& bar : pieces.bars)
         line(looks[bar.look], x + bar.x1, y + bar.y1, x + bar.x2, y + bar.y2);
 }
 
-void TextPen::run(const TextLook& look, const QString& letters, double x, double y)
+void TextPen::letters(const TextLook& look, const QString& letters, double x, double y)
 {
     if (!look.isDown && !look.isSymbol && look.tracking == 1.0) {
         if (!isBlank(letters))
@@ -111,16 +111,19 @@ void TextPen::single(const TextLook& look, const QString& letter, double x, doub
 {
     if (isBlank(letter))
         return;
+    const auto place = [x, y](const TextLook& own, double advance) {
+        return own.isDown ? standing(own, advance, x, y) : ownFrame(own, x, y);
+    };
     const auto steps =
         look.isSymbol ? symbolSteps(letter[0].unicode()) : std::span<const SymbolStep>();
-    KdGeMatrix3d own = ownFrame(look, x, y);
-    if (look.isDown)
-        own = standing(look, steps.empty() ? advanceOf(look.face.font, letter) : kSymbolAdvance, x,
-                       y);
-    if (steps.empty())
-        m_writer.text(letter, look.face.font, m_frame * own);
-    else
-        symbol(look, steps, m_frame * own);
+    if (steps.empty()) {
+        const double advance = look.isDown ? advanceOf(look.face.font, letter) : 0.0;
+        m_writer.text(letter, look.face.font, m_frame * place(look, advance));
+        return;
+    }
+    TextLook own = look;
+    own.face.stretch = 1.0; // which is the letters' of the face
+    symbol(own, steps, m_frame * place(own, kSymbolAdvance));
 }
 
 void TextPen::symbol(const TextLook& look, std::span<const SymbolStep> steps,

@@ -21,8 +21,8 @@ class TextPen
     TextPen(const TextPen&) = delete;
     TextPen& operator=(const TextPen&) = delete;
 
-    /// @param x,y  in the frame of the text: where the base line begins
-    void letters(const TextLook& look, const QString& letters, double x, double y);
+    /// @param x,y  the origin of the run, in the frame of the text
+    void run(const TextLook& look, const TextRun& run, double x, double y);
     /// @param x,y  the origin of the pieces
     void pieces(const TextPieces& pieces, const std::vector<TextLook>& looks, double x, double y);
     void line(const TextLook& look, double x1, double y1, double x2, double y2);
@@ -34,7 +34,7 @@ class TextPen
   private:
     KdGePoint3d placed(double x, double y) const { return m_frame * KdGePoint3d{x, y, 0.0}; }
     void useColor(std::uint32_t color);
-    void run(const TextLook& look, const QString& letters, double x, double y);
+    void letters(const TextLook& look, const QString& letters, double x, double y);
     void single(const TextLook& look, const QString& letter, double x, double y);
     void symbol(const TextLook& look, std::span<const SymbolStep> steps, const KdGeMatrix3d& own);
     void linesAlong(const TextLook& look, double x, double y, double width);
