@@ -21,8 +21,9 @@ constexpr std::span<const MemberReaderRow> (*kFamilies[])() = {
     hatchReaders,      imageReaders,          insertReaders,       leaderReaders,
     lightReaders,      meshReaders,           mleaderReaders,      mlineReaders,
     mtextReaders,      objectReaders,         pointCloudReaders,   polylineReaders,
-    proxyReaders,      sectionReaders,        solid3dReaders,      splineReaders,
-    tableReaders,      textReaders,           viewportReaders,     xrecordReaders,
+    proxyReaders,      sectionReaders,        solid3dReaders,      specialTextReaders,
+    splineReaders,     tableReaders,          textReaders,         viewportReaders,
+    xrecordReaders,
 };
 
 /// All rows by class.

@@ -221,6 +221,81 @@ TEST(Multiline, FindsItsStyleByNameWhereTheHandleLeadsNowhere)
         });
 }
 
+Groups arcText(const char* start, const char* end)
+{
+    return joined({{{0, "ARCALIGNEDTEXT"},
+                    {100, "AcDbArcAlignedText"},
+                    {1, "Around"},
+                    {2, "romans"},
+                    {7, "Standard"}},
+                   point(10, "1", "2", "3"),
+                   {{40, "10"},
+                    {41, "0.8"},
+                    {42, "2.5"},
+                    {43, "0.1"},
+                    {44, "0.2"},
+                    {45, "0.3"},
+                    {46, "0.4"},
+                    {50, start},
+                    {51, end},
+                    {70, "1"},
+                    {71, "2"},
+                    {72, "4"},
+                    {73, "2"},
+                    {74, "1"},
+                    {75, "0"},
+                    {76, "1"}},
+                   point(210, "0", "0", "-1")});
+}
+
+TEST(ArcAlignedText, IsReadWithAllThatPlacesItsLetters)
+{
+    inBothForms({section("ENTITIES", arcText("0.5", "2.5"))}, [](const ReadDrawing& drawn) {
+        const ArcTextData& read = drawn.entity<KdDbArcAlignedText>(0)->textData();
+        EXPECT_EQ(read.text, L"Around");
+        EXPECT_EQ(read.fontName, L"romans");
+        EXPECT_EQ(read.center, (KdGePoint3d{1, 2, 3}));
+        EXPECT_EQ(read.radius, 10.0);
+        EXPECT_EQ(read.widthFactor, 0.8);
+        EXPECT_EQ(read.height, 2.5);
+        EXPECT_EQ(read.letterSpacing, 0.1);
+        EXPECT_EQ(read.offset, 0.2);
+        EXPECT_EQ(read.rightOffset, 0.3);
+        EXPECT_EQ(read.leftOffset, 0.4);
+        EXPECT_EQ(read.startAngle, 0.5);
+        EXPECT_EQ(read.endAngle, 2.5);
+        EXPECT_EQ(read.alignment, KdDb::kArcCenter);
+        EXPECT_EQ(read.normal, (KdGeVector3d{0, 0, -1}));
+        EXPECT_TRUE(read.reversed && read.inward && read.concave && read.bold && read.underlined);
+        EXPECT_FALSE(read.italic);
+    });
+}
+
+TEST(ArcAlignedText, MayHaveItsAnglesInDegrees)
+{
+    inBothForms({section("ENTITIES", arcText("45", "90"))}, [](const ReadDrawing& drawn) {
+        const ArcTextData& read = drawn.entity<KdDbArcAlignedText>(0)->textData();
+        EXPECT_DOUBLE_EQ(read.startAngle, kPi / 4);
+        EXPECT_DOUBLE_EQ(read.endAngle, kPi / 2);
+    });
+}
+
+TEST(RText, IsReadWithItsPlace)
+{
+    const Groups text = joined({{{0, "RTEXT"}, {100, "RText"}},
+                                point(10, "1", "2", "3"),
+                                {{50, "90"}, {40, "2.5"}, {70, "1"}, {1, "$(getvar,date)"}},
+                                point(210, "0", "0", "1")});
+    inBothForms({section("ENTITIES", text)}, [](const ReadDrawing& drawn) {
+        const auto* read = drawn.entity<KdDbRText>(0);
+        EXPECT_EQ(read->contents(), L"$(getvar,date)");
+        EXPECT_EQ(read->position(), (KdGePoint3d{1, 2, 3}));
+        EXPECT_EQ(read->height(), 2.5);
+        EXPECT_DOUBLE_EQ(read->rotation(), kPi / 2);
+        EXPECT_TRUE(read->isExpression());
+    });
+}
+
 TEST(Light, IsReadWithAnglesInRadians)
 {
     const Groups light = joined({{{0, "LIGHT"},

@@ -149,12 +149,13 @@ TEST(MText, PrefersTheTrueColorOfItsGround)
 TEST(MText, HasColumnsOfAnEmbeddedObject)
 {
     const ReadDrawing drawn =
-        readMText({{10, "1"},  {40, "2.5"},    {41, "76"},   {46, "12"},
-                   {71, "1"},  {72, "5"},      {1, "x"},     {101, "Embedded Object"},
-                   {70, "1"},  {10, "9"},      {11, "9"},    {40, "70"},
-                   {41, "13"}, {42, "76.5"},   {43, "10.5"}, {71, "2"},
-                   {72, "3"},  {44, "24.5"},   {45, "1.25"}, {73, "1"},
-                   {74, "0"},  {1001, "ACAD"}, {1000, "x"}});
+        readMText({{10, "1"},  {40, "2.5"},  {41, "76"},   {46, "12"},
+                   {71, "1"},  {72, "5"},    {1, "x"},     {101, "Embedded Object"},
+                   {70, "1"},  {10, "9"},    {11, "9"},    {40, "70"},
+                   {41, "13"}, {42, "76.5"}, {43, "10.5"}, {71, "2"},
+                   {72, "3"},  {44, "24.5"}, {45, "1.25"}, {73, "1"},
+                   {74, "0"},  {46, "7.5"},  {46, "0"},    {1001, "ACAD"},
+                   {1000, "x"}});
     const auto* text = drawn.entity<KdDbMText>(0);
     EXPECT_EQ(text->location(), (KdGePoint3d{1, 0, 0}));
     EXPECT_EQ(text->textHeight(), 2.5);
@@ -167,6 +168,7 @@ TEST(MText, HasColumnsOfAnEmbeddedObject)
     EXPECT_EQ(text->columnCount(), 3);
     EXPECT_EQ(text->columnWidth(), 24.5);
     EXPECT_EQ(text->columnGutterWidth(), 1.25);
+    EXPECT_EQ(text->textData().columns.heights, (std::vector<double>{7.5, 0.0}));
     EXPECT_EQ(text->actualWidth(), 76.5);
     const resbuf* end = nullptr;
     EXPECT_TRUE(text->extendedData(L"ACAD", end));

@@ -77,8 +77,8 @@ TEST_F(Tolerance, DrawsSignsAsStrokes)
     const auto strokes = paper.strokes();
     ASSERT_THAT(strokes, SizeIs(5)); // two cells and three signs
     const Stroke& sign = strokes[1];
-    EXPECT_THAT(sign.points[0], IsAt(11.0, 19.0));
-    EXPECT_THAT(sign.points[1], IsAt(11.0 + 2.4, 19.0));
+    EXPECT_THAT(sign.points[0], IsAt(11.2, 19.0));
+    EXPECT_THAT(sign.points[1], IsAt(11.2 + 2.4, 19.0));
     EXPECT_THAT(strokes[0].points[2], IsAt(10.0 + 2.0 + 2.0 * kSymbolAdvance, 22.0));
 }
 

@@ -25,3 +25,5 @@ bool isSymbolFont(std::wstring_view fileName);
 std::span<const SymbolStep> symbolSteps(char32_t letter);
 /// How wide each sign is, the gap behind it included.
 inline constexpr double kSymbolAdvance = 1.5;
+/// And the gap before it, in which no step draws.
+inline constexpr double kSymbolGap = 0.1;

@@ -123,7 +123,9 @@ void TextPen::single(const TextLook& look, const QString& letter, double x, doub
     }
     TextLook own = look;
     own.face.stretch = 1.0; // which is the letters' of the face
-    symbol(own, steps, m_frame * place(own, kSymbolAdvance));
+    KdGeMatrix3d behindGap;
+    behindGap.entry[0][3] = kSymbolGap;
+    symbol(own, steps, m_frame * place(own, kSymbolAdvance) * behindGap);
 }
 
 void TextPen::symbol(const TextLook& look, std::span<const SymbolStep> steps,
