@@ -13,16 +13,16 @@ namespace {
 constexpr int kInward = 2;
 constexpr int kConcave = 2;
 
-constexpr FieldRow<ArcTextMembers> kArcText[] = {
-    {1, field<&ArcTextMembers::text>},           {2, field<&ArcTextMembers::fontName>},
-    {10, field<&ArcTextMembers::center>},        {40, field<&ArcTextMembers::radius>},
-    {41, field<&ArcTextMembers::widthFactor>},   {42, field<&ArcTextMembers::height>},
-    {43, field<&ArcTextMembers::letterSpacing>}, {44, field<&ArcTextMembers::offset>},
-    {45, field<&ArcTextMembers::rightOffset>},   {46, field<&ArcTextMembers::leftOffset>},
-    {50, field<&ArcTextMembers::startAngle>},    {51, field<&ArcTextMembers::endAngle>},
-    {70, field<&ArcTextMembers::reversed>},      {72, field<&ArcTextMembers::alignment>},
-    {74, field<&ArcTextMembers::bold>},          {75, field<&ArcTextMembers::italic>},
-    {76, field<&ArcTextMembers::underlined>},    {210, field<&ArcTextMembers::normal>},
+constexpr FieldRow<ArcTextData> kArcText[] = {
+    {1, field<&ArcTextData::text>},           {2, field<&ArcTextMembers::fontName>},
+    {10, field<&ArcTextData::center>},        {40, field<&ArcTextMembers::radius>},
+    {41, field<&ArcTextData::widthFactor>},   {42, field<&ArcTextMembers::height>},
+    {43, field<&ArcTextData::letterSpacing>}, {44, field<&ArcTextMembers::offset>},
+    {45, field<&ArcTextData::rightOffset>},   {46, field<&ArcTextMembers::leftOffset>},
+    {50, field<&ArcTextData::startAngle>},    {51, field<&ArcTextMembers::endAngle>},
+    {70, field<&ArcTextData::reversed>},      {72, field<&ArcTextMembers::alignment>},
+    {74, field<&ArcTextData::bold>},          {75, field<&ArcTextMembers::italic>},
+    {76, field<&ArcTextData::underlined>},    {210, field<&ArcTextMembers::normal>},
 };
 
 /// Angles stand as radians, but as degrees in drawings of some writers: no arc that is meant for
@@ -51,7 +51,7 @@ void readArcText(RecordReader& reader, ArcTextMembers& text)
             text.concave = reader.integer() == kConcave;
             break;
         default:
-            takeField(kArcText, reader, text);
+            takeField(kArcText, reader, static_cast<ArcTextData&>(text));
         }
     }
     finishAngles(text);

@@ -184,7 +184,7 @@ TEST_F(MText, TakesTheSizeOfItsDrawingBeforeItsOwn)
 
 TEST_F(MText, IsAsWideAsItsColumns)
 {
-    text.edit().columns = {KdDb::kStaticColumns, 3, 10.0, 2.0};
+    text.edit().columns = {KdDb::kStaticColumns, 3, 10.0, 2.0, {}};
     text.edit().height = 20.0;
     EXPECT_NEAR(text.actualWidth(), 34.0, kNear);
     EXPECT_NEAR(text.actualHeight(), 20.0, kNear);

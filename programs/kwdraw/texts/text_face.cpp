@@ -6,8 +6,7 @@
 #include <QMutexLocker>
 
 #include <algorithm>
-#include <cmath>
-#include <string>
+#include <span>
 
 #include <database/tables.h>
 #include <kwdraw/texts/font_metrics.h>
