@@ -1,0 +1,78 @@
+#include <ui/message_box_windows.h>
+#include <ui/theme.h>
+
+#include <QApplication>
+
+#include <iostream>
+#include <optional>
+#include <string>
+
+#include <CLI/CLI.hpp>
+
+#include <kwdraw/document/settings.h>
+#include <kwdraw/window/main_window.h>
+
+namespace {
+
+constexpr int kCannotWork = 2;
+
+struct Options
+{
+    std::string drawing;
+    std::string layout;
+    std::string colors; ///< as they were, where it says nothing
+};
+
+/// The exit status, if the options say all there is to do.
+std::optional<int> readOptions(int argc, char** argv, Options& options)
+{
+    CLI::App app("Shows a drawing and selects among its objects by their properties.", "kwdraw");
+    CLI::Option* drawing = app.add_option("drawing", options.drawing, "a DXF file");
+    app.add_option("--layout", options.layout, "the layout to show, \"Model\" or a sheet")
+        ->needs(drawing);
+    app.add_option("--colors", options.colors, "the colours of the windows")
+        ->check(CLI::IsMember({"dark", "light"}));
+    app.set_version_flag("--version", KW_VERSION);
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::ParseError& problem) {
+        return app.exit(problem) == 0 ? 0 : kCannotWork;
+    }
+    return std::nullopt;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    Options options;
+    QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    // Options of our own are answered where there is no display, too.
+    for (int i = 1; i < argc; ++i) {
+        const std::string argument = argv[i];
+        if (argument == "--version" || argument == "--help" || argument == "-h")
+            return *readOptions(argc, argv, options);
+    }
+    QApplication application(argc, argv);
+    QApplication::setApplicationName("kwdraw");
+    QApplication::setApplicationVersion(KW_VERSION);
+    if (const auto status = readOptions(argc, argv, options))
+        return *status;
+    installMessageBoxWindows();
+    Module module;
+    if (!module.load(modulePath())) {
+        std::cerr << "kwdraw: " << module.error() << '\n';
+        return kCannotWork;
+    }
+    restoreVariables();
+    if (!options.colors.empty())
+        setSwitch(L"COLORTHEME", options.colors == "light" ? 1 : 0);
+    kduiApplyColorTheme();
+    MainWindow window(module);
+    window.show();
+    if (!options.drawing.empty())
+        window.openFile(QString::fromLocal8Bit(options.drawing.c_str()),
+                        QString::fromLocal8Bit(options.layout.c_str()));
+    return QApplication::exec();
+}

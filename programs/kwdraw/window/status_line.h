@@ -1,0 +1,41 @@
+/// What stands at the foot of the window.
+#pragma once
+
+#include <QPointF>
+#include <QWidget>
+
+class QLabel;
+class QProgressBar;
+class QStatusBar;
+class QToolButton;
+
+class StatusLine : public QWidget
+{
+    Q_OBJECT
+  public:
+    /// Places its parts in `bar`.
+    explicit StatusLine(QStatusBar& bar);
+
+    /// The cursor's place in drawing units, in the notation of the drawing.
+    void showPlace(QPointF place);
+    /// The units of the working drawing, and no place.
+    void showUnits();
+    void showCount(std::size_t selected);
+    /// What is going on, with the part that is done, 0 to 1.
+    void showWork(const QString& what, double part);
+    void endWork();
+
+  signals:
+    void cancelled();
+
+  private:
+    QLabel* addLabel(const char* name, int widthInLetters);
+
+    QStatusBar& m_bar;
+    QLabel* m_place;
+    QLabel* m_units;
+    QLabel* m_count;
+    QLabel* m_what;
+    QProgressBar* m_progress;
+    QToolButton* m_cancel;
+};
