@@ -1,11 +1,11 @@
 # What is installed, and where. Programs find the libraries, the module and the texts beside
 # themselves, so a prefix can be moved as a whole; the build tree has the same layout.
 
-set_target_properties(kwselect kwbrowse PROPERTIES INSTALL_RPATH "$ORIGIN/../lib")
+set_target_properties(kwselect kwdraw PROPERTIES INSTALL_RPATH "$ORIGIN/../lib")
 set_target_properties(kwhost kwhostui PROPERTIES INSTALL_RPATH "$ORIGIN")
 set_target_properties(KwQselectUtil PROPERTIES INSTALL_RPATH "$ORIGIN/..")
 
-install(TARGETS kwselect kwbrowse RUNTIME DESTINATION bin)
+install(TARGETS kwselect kwdraw RUNTIME DESTINATION bin)
 install(TARGETS kwhost kwhostui LIBRARY DESTINATION lib)
 install(TARGETS KwQselectUtil LIBRARY DESTINATION lib/kwqselect)
 foreach(language ${KW_LANGUAGES})
@@ -21,3 +21,6 @@ install(FILES ${packaging}/completion/_kwselect DESTINATION share/zsh/vendor-com
 install(FILES ${packaging}/completion/kwselect.fish DESTINATION share/fish/vendor_completions.d)
 install(FILES ${PROJECT_SOURCE_DIR}/LICENSE ${PROJECT_SOURCE_DIR}/README.md
   DESTINATION share/doc/kwqselect)
+install(FILES ${packaging}/desktop/kwdraw.desktop DESTINATION share/applications)
+install(FILES ${packaging}/desktop/kwdraw.svg DESTINATION share/icons/hicolor/scalable/apps)
+install(FILES ${packaging}/desktop/org.kwqselect.kwdraw.metainfo.xml DESTINATION share/metainfo)
