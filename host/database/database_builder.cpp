@@ -146,9 +146,11 @@ void KdDbDatabaseBuilder::addPlotStyles(KdDbDictionary& named)
 void KdDbDatabaseBuilder::finish()
 {
     // The objects that follow come after those without a handle.
-    for (std::size_t i = 0; i < m_database.m_objects.size(); ++i) {
+    std::size_t without = m_database.m_objects.size() - m_database.m_byHandle.size();
+    for (std::size_t i = 0; without > 0; ++i) {
         KdDbObject& object = *m_database.m_objects[i];
         if (object.m_handle == 0) {
+            --without;
             object.m_handle = m_database.m_nextHandle++;
             m_database.noteHandle(object);
         }

@@ -151,13 +151,13 @@ void ClassTable::addForeign(std::span<const ForeignClass> classes)
             add(rxClass, name);
     }
     m_seen.clear();
-    m_last = nullptr;
+    m_recent.clear();
 }
 
 const ClassEntry& ClassTable::find(std::string_view recordName)
 {
-    if (m_last && recordName == m_lastName)
-        return *m_last;
+    if (const ClassEntry* const* known = m_recent.find(recordName))
+        return **known;
     auto seen = m_seen.find(recordName);
     if (seen == m_seen.end()) {
         constexpr std::size_t kLongestName = 255; // in a damaged file it may be a gigabyte
@@ -165,9 +165,8 @@ const ClassEntry& ClassTable::find(std::string_view recordName)
         const ClassEntry* entry = known == m_known.end() ? &m_unknown : &known->second;
         seen = m_seen.emplace(recordName, entry).first;
     }
-    m_lastName = recordName;
-    m_last = seen->second;
-    return *m_last;
+    m_recent.note(recordName, seen->second);
+    return *seen->second;
 }
 
 } // namespace dxf

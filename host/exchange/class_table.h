@@ -11,6 +11,7 @@
 #include <runtime/rx_class.h>
 
 #include "drawing_source.h"
+#include "recent_names.h"
 
 namespace dxf {
 
@@ -74,8 +75,7 @@ class ClassTable
     std::unordered_map<std::string, ClassEntry> m_known;
     std::unordered_map<std::string_view, const ClassEntry*> m_seen;
     ClassEntry m_unknown;
-    std::string_view m_lastName;
-    const ClassEntry* m_last = nullptr;
+    RecentNames<const ClassEntry*> m_recent;
 };
 
 } // namespace dxf

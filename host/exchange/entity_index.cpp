@@ -11,8 +11,10 @@ namespace dxf {
 KdDbObjectId LayerNames::lookUp(std::string_view name, std::uint64_t offset, KdDbHandle handle)
 {
     const auto known = m_ids.find(name);
-    if (known != m_ids.end())
+    if (known != m_ids.end()) {
+        m_recent.note(name, known->second);
         return known->second;
+    }
     const KdString text = name.empty() ? KdString(L"0") : m_source.decoder.decode(name);
     auto& table = m_source.database.table<KdDbLayerTable>();
     KdDbObjectId id;
@@ -23,6 +25,7 @@ KdDbObjectId LayerNames::lookUp(std::string_view name, std::uint64_t offset, KdD
         id = m_maker.findOrMake<KdDbLayerTable>(text)->objectId();
     }
     m_ids.emplace(name, id);
+    m_recent.note(name, id);
     return id;
 }
 

@@ -5,11 +5,12 @@
 
 #include "block_index.h"
 #include "class_table.h"
+#include "recent_names.h"
 #include "text_columns.h"
 
 namespace dxf {
 
-/// Finds layers by their undecoded names. Neighbours in a file are often on one layer.
+/// Finds layers by their undecoded names.
 class LayerNames
 {
   public:
@@ -18,11 +19,8 @@ class LayerNames
     /// `offset` and `handle` are those of the entity that names the layer.
     KdDbObjectId find(std::string_view name, std::uint64_t offset, KdDbHandle handle)
     {
-        if (name != m_lastName || m_last.isNull()) {
-            m_last = lookUp(name, offset, handle);
-            m_lastName = name;
-        }
-        return m_last;
+        const KdDbObjectId* const known = m_recent.find(name);
+        return known ? *known : lookUp(name, offset, handle);
     }
 
   private:
@@ -31,8 +29,7 @@ class LayerNames
     DrawingSource& m_source;
     ObjectMaker& m_maker;
     std::unordered_map<std::string_view, KdDbObjectId> m_ids;
-    std::string_view m_lastName;
-    KdDbObjectId m_last;
+    RecentNames<KdDbObjectId> m_recent;
 };
 
 class EntityIndex

@@ -13,6 +13,7 @@
 #include <unistd.h>
 
 #include "line_splitter.h"
+#include "utf8.h"
 
 namespace dxf {
 namespace {
@@ -88,6 +89,7 @@ FileBytes& FileBytes::operator=(FileBytes&& other) noexcept
     std::swap(m_data, other.m_data);
     std::swap(m_size, other.m_size);
     std::swap(m_reserved, other.m_reserved);
+    std::swap(m_asciiSize, other.m_asciiSize);
     std::swap(m_file, other.m_file);
     return *this;
 }
@@ -97,13 +99,15 @@ FileBytes FileBytes::copyOf(std::string_view text)
     FileBytes bytes(text.size());
     std::copy(text.begin(), text.end(), bytes.m_data);
     bytes.m_size = text.size();
+    bytes.m_asciiSize = asciiEnd(text, 0);
     return bytes;
 }
 
 KdErrorStatus FileBytes::read(const std::filesystem::path& file, FileBytes& bytes, KdString& error,
                               const Progress& progress)
 {
-    constexpr std::size_t kMostAtOnce = std::size_t{32} << 20;
+    // So much stays in the processor's cache until it has been looked at.
+    constexpr std::size_t kMostAtOnce = std::size_t{1} << 18;
     const Descriptor descriptor(file);
     if (!descriptor.isOpen())
         return fail(error, reasonOf(errno));
@@ -132,7 +136,10 @@ KdErrorStatus FileBytes::read(const std::filesystem::path& file, FileBytes& byte
             return fail(error, reasonOf(errno));
         if (got == 0)
             break;
+        const bool isAsciiSoFar = result.m_asciiSize == result.m_size;
         result.m_size += static_cast<std::size_t>(got);
+        if (isAsciiSoFar)
+            result.m_asciiSize = asciiEnd(result.view(), result.m_asciiSize);
     }
     result.m_file = {status.st_dev, status.st_ino};
     bytes = std::move(result);

@@ -37,6 +37,8 @@ class FileBytes
     const char* data() const { return m_data; }
     std::size_t size() const { return m_size; }
     std::string_view view() const { return {m_data, m_size}; }
+    /// So many bytes at the beginning are below 128; known without another look at them.
+    std::size_t asciiSize() const { return m_asciiSize; }
     /// The file that the bytes came from; no file for a copy.
     const FileIdentity& file() const { return m_file; }
 
@@ -46,6 +48,7 @@ class FileBytes
     char* m_data = nullptr;
     std::size_t m_size = 0;
     std::size_t m_reserved = 0;
+    std::size_t m_asciiSize = 0;
     FileIdentity m_file;
 };
 

@@ -1,5 +1,7 @@
 #include "line_splitter.h"
 
+#include <bit>
+
 // Everything up to the end of the first namespace is compiled once for each instruction set; the
 // best one that the processor has is chosen at the first call.
 #undef HWY_TARGET_INCLUDE
@@ -60,7 +62,7 @@ HWY_INLINE Masks masksOf(const char* block)
 
 #endif
 
-std::uint64_t lineEndsOf(const char* block)
+std::uint64_t lineEndMask(const char* block)
 {
     const Masks masks = masksOf(block);
     if (masks.returns == 0)
@@ -69,17 +71,41 @@ std::uint64_t lineEndsOf(const char* block)
     return masks.feeds | (masks.returns & ~feedFollows);
 }
 
+std::size_t findLineEndsOf(const char* text, std::size_t size, std::uint16_t* ends)
+{
+    std::size_t count = 0;
+    for (std::size_t at = 0; at < size; at += 64) {
+        std::uint64_t mask = lineEndMask(text + at);
+        if (size - at < 64)
+            mask &= (std::uint64_t{1} << (size - at)) - 1;
+        std::uint16_t* next = ends + count;
+        count += static_cast<std::size_t>(std::popcount(mask));
+        // Groups of a fixed number: to ask for the end at each place would be guessed wrong in most
+        // blocks. What stands behind the last end is written over.
+        do {
+            HWY_UNROLL(kLineEndsAtOnce)
+            for (std::size_t i = 0; i < kLineEndsAtOnce; ++i) {
+                next[i] = static_cast<std::uint16_t>(
+                    at + static_cast<std::size_t>(std::countr_zero(mask)));
+                mask &= mask - 1;
+            }
+            next += kLineEndsAtOnce;
+        } while (mask != 0);
+    }
+    return count;
+}
+
 } // namespace dxf::HWY_NAMESPACE
 HWY_AFTER_NAMESPACE();
 
 #if HWY_ONCE
 namespace dxf {
 
-HWY_EXPORT(lineEndsOf);
+HWY_EXPORT(findLineEndsOf);
 
-std::uint64_t lineEnds(const char* block)
+std::size_t findLineEnds(const char* text, std::size_t size, std::uint16_t* ends)
 {
-    return HWY_DYNAMIC_DISPATCH(lineEndsOf)(block);
+    return HWY_DYNAMIC_DISPATCH(findLineEndsOf)(text, size, ends);
 }
 
 } // namespace dxf

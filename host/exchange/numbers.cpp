@@ -1,5 +1,6 @@
 #include "numbers.h"
 
+#include <array>
 #include <charconv>
 #include <cmath>
 #include <limits>
@@ -41,6 +42,20 @@ bool hasDecimalComma(std::string_view text, std::size_t used)
 {
     return used > 0 && used + 1 < text.size() && text[used] == ',' && isDigit(text[used + 1]);
 }
+
+constexpr std::uint8_t kNoDigit = 0x80;
+
+constexpr auto kHexDigits = [] {
+    std::array<std::uint8_t, 256> digits{};
+    digits.fill(kNoDigit);
+    for (std::uint8_t i = 0; i < 10; ++i)
+        digits[static_cast<std::size_t>('0') + i] = i;
+    for (std::uint8_t i = 0; i < 6; ++i) {
+        digits[static_cast<std::size_t>('A') + i] = static_cast<std::uint8_t>(i + 10);
+        digits[static_cast<std::size_t>('a') + i] = static_cast<std::uint8_t>(i + 10);
+    }
+    return digits;
+}();
 
 } // namespace
 
@@ -85,15 +100,16 @@ bool parseHandle(std::string_view text, std::uint64_t& handle)
     text = trimmed(text);
     if (text.empty() || text.size() > kMostDigits)
         return false;
-    // By hand, since one is read for every object.
+    // By hand, since some are read for every object.
     std::uint64_t value = 0;
+    unsigned all = 0;
     for (const char c : text) {
-        const unsigned decimal = static_cast<unsigned>(c - '0');
-        const unsigned letter = static_cast<unsigned>((c | 0x20) - 'a');
-        if (decimal >= 10 && letter >= 6)
-            return false;
-        value = value << 4 | (decimal < 10 ? decimal : letter + 10);
+        const unsigned digit = kHexDigits[static_cast<unsigned char>(c)];
+        all |= digit;
+        value = value << 4 | (digit & 15u);
     }
+    if (all & kNoDigit)
+        return false;
     handle = value;
     return true;
 }

@@ -33,24 +33,6 @@ bool isCharacter(std::uint32_t value, std::uint32_t least)
     return value >= least && value <= 0x10FFFF && (value < 0xD800 || value > 0xDFFF);
 }
 
-/// The first place from `at` on that holds a byte above 127.
-std::size_t skipAscii(std::string_view bytes, std::size_t at)
-{
-    constexpr std::uint64_t kHighBits = 0x8080808080808080u;
-    for (; at + 64 <= bytes.size(); at += 64) {
-        std::uint64_t words[8];
-        std::memcpy(words, bytes.data() + at, sizeof words);
-        std::uint64_t all = 0;
-        for (const std::uint64_t word : words)
-            all |= word;
-        if (all & kHighBits)
-            break;
-    }
-    while (at < bytes.size() && static_cast<unsigned char>(bytes[at]) < 0x80)
-        ++at;
-    return at;
-}
-
 } // namespace
 
 wchar_t nextUtf8(std::string_view bytes, std::size_t& at, bool& wellFormed)
@@ -78,11 +60,28 @@ void decodeUtf8(std::string_view bytes, std::wstring& text)
         text.push_back(nextUtf8(bytes, at, wellFormed));
 }
 
+std::size_t asciiEnd(std::string_view bytes, std::size_t at)
+{
+    constexpr std::uint64_t kHighBits = 0x8080808080808080u;
+    for (; at + 64 <= bytes.size(); at += 64) {
+        std::uint64_t words[8];
+        std::memcpy(words, bytes.data() + at, sizeof words);
+        std::uint64_t all = 0;
+        for (const std::uint64_t word : words)
+            all |= word;
+        if (all & kHighBits)
+            break;
+    }
+    while (at < bytes.size() && static_cast<unsigned char>(bytes[at]) < 0x80)
+        ++at;
+    return at;
+}
+
 Utf8Evidence findUtf8(std::string_view bytes)
 {
     Utf8Evidence evidence;
-    for (std::size_t at = skipAscii(bytes, 0); at < bytes.size() && evidence.wellFormed;
-         at = skipAscii(bytes, at)) {
+    for (std::size_t at = asciiEnd(bytes, 0); at < bytes.size() && evidence.wellFormed;
+         at = asciiEnd(bytes, at)) {
         nextUtf8(bytes, at, evidence.wellFormed);
         evidence.characters += evidence.wellFormed ? 1 : 0;
     }

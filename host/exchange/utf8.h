@@ -14,6 +14,9 @@ wchar_t nextUtf8(std::string_view bytes, std::size_t& at, bool& wellFormed);
 /// Appends the characters of `bytes`. Never fails.
 void decodeUtf8(std::string_view bytes, std::wstring& text);
 
+/// The first place from `from` on that holds a byte above 127, or the end.
+std::size_t asciiEnd(std::string_view bytes, std::size_t from);
+
 /// How the bytes above 127 of a file look.
 struct Utf8Evidence
 {
