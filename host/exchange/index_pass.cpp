@@ -28,6 +28,8 @@ IndexPass::IndexPass(DrawingSource& source, ReadReport& report,
 
 bool IndexPass::run()
 {
+    constexpr std::size_t kBytesOfRecord = 256; // a usual one; only what is used takes memory
+    m_maker.builder().reserve(m_source.form.bytes.size() / kBytesOfRecord);
     m_report.version = KdString(std::wstring(kOldVersion.begin(), kOldVersion.end()));
     m_cursor.toNextRecord();
     while (m_cursor.atRecord() && !m_cursor.isAt("EOF")) {

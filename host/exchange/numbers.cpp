@@ -26,6 +26,38 @@ bool isDigit(char c)
     return c >= '0' && c <= '9';
 }
 
+/// Reads a decimal number without exponent, if it has few digits, as by far the most numbers have:
+/// then digits and power of ten are exact, and one division rounds as it should. False for all
+/// other texts, `value` untouched.
+bool readPlainReal(std::string_view text, double& value)
+{
+    constexpr double kPowers[] = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
+                                  1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
+    constexpr std::size_t kMostDigits = 15;
+    const bool isNegative = text.starts_with('-');
+    text.remove_prefix(isNegative ? 1 : 0);
+    std::int64_t digits = 0;
+    std::size_t point = text.size();
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const unsigned digit = static_cast<unsigned>(text[i] - '0');
+        if (digit < 10)
+            digits = digits * 10 + digit;
+        else if (text[i] == '.' && point == text.size())
+            point = i;
+        else
+            return false;
+        if (i > kMostDigits)
+            return false;
+    }
+    const std::size_t count = text.size() - (point < text.size() ? 1 : 0);
+    if (count == 0 || count > kMostDigits)
+        return false;
+    const std::size_t decimals = point < text.size() ? text.size() - point - 1 : 0;
+    const double magnitude = static_cast<double>(digits) / kPowers[decimals];
+    value = isNegative ? -magnitude : magnitude;
+    return true;
+}
+
 /// How much of `text` was read as a number.
 std::size_t readReal(std::string_view text, double& value)
 {
@@ -61,6 +93,8 @@ constexpr auto kHexDigits = [] {
 
 NumberState parseReal(std::string_view text, double& value)
 {
+    if (readPlainReal(text, value))
+        return NumberState::Good;
     constexpr std::size_t kLongestNumber = 64;
     text = withoutPlus(text);
     std::size_t used = readReal(text, value);

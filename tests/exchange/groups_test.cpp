@@ -1,3 +1,6 @@
+#include <cmath>
+#include <cstdint>
+#include <cstdlib>
 #include <string>
 #include <vector>
 
@@ -75,6 +78,62 @@ TEST(AsciiGroups, RefuseCodesOutOfRange)
 {
     EXPECT_EQ(readText("99999999999999999999\n0\nEOF\n"), (std::vector<Read>{{0, "EOF"}}));
 }
+
+TEST(AsciiGroups, ReadCodesWithBlanksOnBothSidesAndWithLeadingZeros)
+{
+    EXPECT_EQ(readText("0  \nA\n 8 \nB\n010\nC\n1001\nD\n  05\nE\n"),
+              (std::vector<Read>{{0, "A"}, {8, "B"}, {10, "C"}, {1001, "D"}, {5, "E"}}));
+}
+
+TEST(AsciiGroups, TakeNothingForACodeThatOnlyResemblesOne)
+{
+    for (const char* line : {"1 0", "!8!", "+10", "1.0", "a", "8a", "-", "\x10\x11", "12345678"})
+        EXPECT_EQ(readText(std::string(line) + "\n0\nEOF\n"), (std::vector<Read>{{0, "EOF"}}))
+            << line;
+}
+
+/// Records of many sizes with all that can stand between them, more than is looked at at once.
+std::string manyRecords(int count, const std::string& end)
+{
+    std::string text;
+    for (int i = 0; i < count; ++i) {
+        text += "  0" + end + "RECORD" + std::to_string(i) + end;
+        for (int k = 0; k < i % 23; ++k)
+            text += " 10" + end + std::string(static_cast<std::size_t>(i * k % 97), 'x') + end;
+        if (i % 5 == 0)
+            text += "999" + end + "0" + end + "no code" + end;
+        if (i % 7 == 0)
+            text += "1000" + end + "0" + end;
+    }
+    return text;
+}
+
+class AsciiRecordsEndedBy : public testing::TestWithParam<const char*>
+{
+};
+
+TEST_P(AsciiRecordsEndedBy, AreFoundOneAfterTheOther)
+{
+    constexpr int kCount = 400;
+    const std::string end = GetParam();
+    const FileBytes bytes = FileBytes::copyOf(manyRecords(kCount, end));
+    Findings findings;
+    AsciiGroups groups(bytes.data(), 0, bytes.size(), &findings);
+    Group group;
+    for (int i = 0; i < kCount; ++i) {
+        ASSERT_TRUE(groups.nextRecord(group)) << i;
+        EXPECT_EQ(group.text, "RECORD" + std::to_string(i));
+        EXPECT_EQ(bytes.view().substr(group.offset, 3), "  0");
+    }
+    EXPECT_FALSE(groups.nextRecord(group));
+    EXPECT_EQ(findings.total(), 80u); // the lines that are no code
+}
+
+INSTANTIATE_TEST_SUITE_P(LineEnds, AsciiRecordsEndedBy, testing::Values("\n", "\r\n", "\r"),
+                         [](const auto& given) {
+                             const std::string end = given.param;
+                             return end == "\n" ? "LF" : end == "\r" ? "CR" : "CRLF";
+                         });
 
 struct BinaryCase
 {
@@ -161,6 +220,35 @@ INSTANTIATE_TEST_SUITE_P(Widths, BinaryGroupsOf,
                          testing::Values(BinaryCase{"codesOfOneByte", true},
                                          BinaryCase{"codesOfTwoBytes", false}),
                          [](const auto& row) { return row.param.name; });
+
+TEST(Numbers, AreTheNearestToWhatIsWrittenHoweverManyDigitsThereAre)
+{
+    std::uint64_t state = 1;
+    const auto next = [&state](std::uint64_t below) {
+        state = state * 6364136223846793005u + 1442695040888963407u;
+        return (state >> 33) % below;
+    };
+    for (int i = 0; i < 20000; ++i) {
+        std::string text = next(2) ? "-" : "";
+        const std::uint64_t whole = next(10);
+        for (std::uint64_t k = 0; k <= whole; ++k)
+            text += static_cast<char>('0' + next(10));
+        text += '.';
+        for (std::uint64_t k = next(12); k > 0; --k)
+            text += static_cast<char>('0' + next(10));
+        double value = 0.0;
+        ASSERT_EQ(parseReal(text, value), NumberState::Good) << text;
+        ASSERT_EQ(value, std::strtod(text.c_str(), nullptr)) << text;
+    }
+}
+
+TEST(Numbers, KeepTheSignOfANegativeZero)
+{
+    double value = 1.0;
+    EXPECT_EQ(parseReal("-0.0", value), NumberState::Good);
+    EXPECT_EQ(value, 0.0);
+    EXPECT_TRUE(std::signbit(value));
+}
 
 struct NumberCase
 {
