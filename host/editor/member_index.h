@@ -26,13 +26,17 @@ class MemberIndex
         return m_slots[slot] - 1;
     }
 
-    /// Enters the id at `place`, which must not be in the index yet.
-    void insert(const Cells& cells, std::size_t place)
+    /// Enters the id at `place`; false if it is in the index already.
+    bool insert(const Cells& cells, std::size_t place)
     {
         if ((m_count + 1) * 4 > m_slots.size() * 3)
             grow(cells);
-        m_slots[slotOf(cells, cells[place])] = static_cast<std::uint32_t>(place + 1);
+        std::uint32_t& slot = m_slots[slotOf(cells, cells[place])];
+        if (slot != kFree)
+            return false;
+        slot = static_cast<std::uint32_t>(place + 1);
         ++m_count;
+        return true;
     }
 
     /// Takes out an id that is in the index; the cells must still hold it.

@@ -7,11 +7,12 @@ bool SelectionSet::add(KdDbObjectId id)
     const KdDbDatabase* database = id.database();
     if (!database || (m_database && m_database != database))
         return false;
-    if (contains(id))
-        return true;
-    m_database = database;
     m_cells.push_back(id);
-    m_index.insert(m_cells, m_cells.size() - 1);
+    if (!m_index.insert(m_cells, m_cells.size() - 1)) {
+        m_cells.pop_back();
+        return true;
+    }
+    m_database = database;
     if (!m_live.isEmpty())
         m_live.append(true);
     ++m_count;

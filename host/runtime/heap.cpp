@@ -4,16 +4,27 @@
 #include <cstdlib>
 #include <new>
 
+#include <sys/single_threaded.h>
+
 namespace {
 std::atomic<long long> g_blocksInUse{0};
+
+void countBlocks(long long more) noexcept
+{
+    if (__libc_single_threaded) // nothing has to be locked
+        g_blocksInUse.store(g_blocksInUse.load(std::memory_order_relaxed) + more,
+                            std::memory_order_relaxed);
+    else
+        g_blocksInUse.fetch_add(more, std::memory_order_relaxed);
 }
+} // namespace
 
 void* kdHeapAlloc(std::size_t size)
 {
     void* block = std::malloc(size ? size : 1);
     if (!block)
         throw std::bad_alloc();
-    g_blocksInUse.fetch_add(1, std::memory_order_relaxed);
+    countBlocks(1);
     return block;
 }
 
@@ -21,7 +32,7 @@ void kdHeapFree(void* block) noexcept
 {
     if (!block)
         return;
-    g_blocksInUse.fetch_sub(1, std::memory_order_relaxed);
+    countBlocks(-1);
     std::free(block);
 }
 

@@ -5,6 +5,8 @@
 #include <new>
 #include <utility>
 
+#include <sys/single_threaded.h>
+
 #include <runtime/heap.h>
 
 KdString::Shared* KdString::allocate(std::size_t length)
@@ -52,7 +54,16 @@ KdString& KdString::operator=(KdString&& other) noexcept
 
 void KdString::release() noexcept
 {
-    if (m_shared && m_shared->references.fetch_sub(1, std::memory_order_acq_rel) == 1)
+    if (!m_shared)
+        return;
+    std::atomic<unsigned>& references = m_shared->references;
+    // As long as there is one thread, nothing has to be locked for the count.
+    unsigned before = references.load(std::memory_order_relaxed);
+    if (__libc_single_threaded)
+        references.store(before - 1, std::memory_order_relaxed);
+    else
+        before = references.fetch_sub(1, std::memory_order_acq_rel);
+    if (before == 1)
         kdHeapFree(m_shared);
 }
 

@@ -1,10 +1,15 @@
 #include <command/matching.h>
 
+#include <array>
+#include <cstdint>
+#include <functional>
+
 #include <database/tables.h>
 #include <entities/block_reference.h>
 #include <entities/viewport.h>
 
 #include <providers/entity_pe.h>
+#include <values/class_map.h>
 #include <values/compare.h>
 #include <values/display_name.h>
 #include <values/names.h>
@@ -14,37 +19,95 @@
 
 namespace {
 
-/// With one type chosen both class and display name decide, since two names may share a class.
-bool isOfType(const KdDbEntity& entity, const DialogParameters& parameters, DisplayNames& names)
+/// Tests candidates one after the other. Nothing changes in the drawing meanwhile, so what holds
+/// for a whole class or layer is found out once.
+class Matcher
 {
-    if (isForAllTypes(parameters))
-        return true;
-    if (parameters.objectClassName != entity.isA()->name())
-        return false;
-    const std::wstring& name = names.of(entity);
-    return name.empty() || name == parameters.objectTypeName;
-}
-
-/// Block references are known by the name of the block they came from, which is read directly.
-bool isBlockName(const KdDbEntity& entity, const KdDbEntityPE& provider, const KdString& key)
-{
-    return entity.isKindOf(KdDbBlockReference::desc()) &&
-           provider.isKindOf(KdDbEntity_Extension::desc()) &&
-           key.compare(__ResourceString(77414, L"Misc:Name")) == 0;
-}
-
-bool passes(KdDbEntity& entity, KdDbEntityPE& provider, const DialogParameters& parameters)
-{
-    const PropertyParameters& property = parameters.propertyParameters;
-    ValueChain value;
-    if (isBlockName(entity, provider, property.propertyKey)) {
-        if (getBlockReferenceName(&entity, value.head()) != eOk)
-            return false;
-    } else {
-        provider.PropertyValueGet(&entity, property.propertyKey, value.head(), false, false);
+  public:
+    explicit Matcher(const DialogParameters& parameters)
+        : m_parameters(parameters),
+          m_comparison(parameters.propertyParameters),
+          m_tolerance(CompareDynamicEpsilon(kDefaultTolerance)),
+          m_allTypes(isForAllTypes(parameters))
+    {
     }
-    return CompareProp(value.head(), parameters.filter, property);
-}
+
+    bool isOnFrozenLayer(const KdDbEntity& entity)
+    {
+        const KdDbObjectId id = entity.layerId();
+        constexpr std::uint64_t kGoldenRatio = 0x9E3779B97F4A7C15u;
+        LayerState& state = m_layers[std::hash<KdDbObjectId>()(id) * kGoldenRatio >> (64 - kBits)];
+        if (state.id != id) {
+            const OpenForRead<KdDbLayerTableRecord> layer(id);
+            state = {id, layer && layer->isFrozen()};
+        }
+        return state.isFrozen;
+    }
+
+    /// With one type chosen both class and display name decide, since two names may share a class.
+    bool isOfType(const KdDbEntity& entity)
+    {
+        if (m_allTypes)
+            return true;
+        const KdRxClass* const rxClass = entity.isA();
+        Answer& answer = m_ofChosenClass.at(rxClass);
+        if (answer == Answer::Unknown)
+            answer = m_parameters.objectClassName == rxClass->name() ? Answer::Yes : Answer::No;
+        if (answer == Answer::No)
+            return false;
+        const std::wstring& name = m_names.of(entity);
+        return name.empty() || name == m_parameters.objectTypeName;
+    }
+
+    bool passes(KdDbEntity& entity, KdDbEntityPE& provider)
+    {
+        const KdString& key = m_parameters.propertyParameters.propertyKey;
+        m_value.reset();
+        if (isBlockName(entity, provider)) {
+            if (getBlockReferenceName(&entity, m_value.head()) != eOk)
+                return false;
+        } else {
+            provider.PropertyValueGet(&entity, key, m_value.head(), false, false);
+        }
+        return m_comparison.satisfies(m_value.head(), m_parameters.filter);
+    }
+
+  private:
+    static constexpr unsigned kBits = 10;
+
+    enum class Answer : std::uint8_t
+    {
+        Unknown,
+        No,
+        Yes,
+    };
+    struct LayerState
+    {
+        KdDbObjectId id; ///< null: nothing is frozen
+        bool isFrozen = false;
+    };
+
+    /// Block references are known by the name of the block they came from, which is read directly.
+    bool isBlockName(const KdDbEntity& entity, const KdDbEntityPE& provider)
+    {
+        Answer& answer = m_isBlockReference.at(entity.isA());
+        if (answer == Answer::Unknown)
+            answer = entity.isKindOf(KdDbBlockReference::desc()) ? Answer::Yes : Answer::No;
+        return answer == Answer::Yes && provider.isKindOf(KdDbEntity_Extension::desc()) &&
+               m_parameters.propertyParameters.propertyKey.compare(
+                   __ResourceString(77414, L"Misc:Name")) == 0;
+    }
+
+    const DialogParameters& m_parameters;
+    const PropertyComparison m_comparison;
+    const ScopedTolerance m_tolerance; ///< the drawing's, so that it is not asked for each time
+    const bool m_allTypes;
+    DisplayNames m_names;
+    ValueChain m_value;
+    std::array<LayerState, std::size_t{1} << kBits> m_layers; ///< those looked at last
+    ClassMap<Answer> m_ofChosenClass;
+    ClassMap<Answer> m_isBlockReference;
+};
 
 /// A viewport that is off does not show what would be selected; one that is clipped by an entity
 /// takes that entity along.
@@ -75,21 +138,18 @@ bool matchCandidates(const Candidates& candidates, const std::vector<KdDbEntity*
     const std::vector<KdDbEntity*>& walked = parameters.entireDrawing ? candidates.allEntities
                                              : overStart              ? candidates.selectionEntities
                                                                       : picked;
-    DisplayNames names;
+    Matcher matcher(parameters);
     for (KdDbEntity* entity : walked) {
-        if (!entity)
-            continue;
-        const OpenForRead<KdDbLayerTableRecord> layer(entity->layerId());
-        if (layer && layer->isFrozen())
+        if (!entity || matcher.isOnFrozenLayer(*entity))
             continue;
         if (!parameters.entireDrawing)
             matches.keptSet.add(*entity);
-        if (!isOfType(*entity, parameters, names))
+        if (!matcher.isOfType(*entity))
             continue;
         KdDbEntityPE* provider = KdDbEntityPE::of(*entity);
         if (!provider)
             return false;
-        if (passes(*entity, *provider, parameters))
+        if (matcher.passes(*entity, *provider))
             addMatch(*entity, matches);
     }
     return true;

@@ -6,6 +6,7 @@
 
 #include <command/gathering.h>
 #include <providers/entity_pe.h>
+#include <values/class_map.h>
 #include <values/display_name.h>
 #include <values/operators.h>
 #include <values/value_chain.h>
@@ -108,14 +109,21 @@ void listTypes(const long* ss, quick_select::TypeVisitor visitor, void* context)
     const Candidates candidates = gather(ss);
     const auto& examples = ss ? candidates.selectionTypeEntities : candidates.drawingTypeEntities;
     DisplayNames names;
+    ClassMap<std::size_t> countsOfClasses; // where all entities of a class have one name
     std::map<std::pair<std::wstring, const KdRxClass*>, std::size_t> counts;
-    for (const KdDbEntity* entity : allOf(candidates, ss))
-        ++counts[{names.of(*entity), entity->isA()}];
+    for (const KdDbEntity* entity : allOf(candidates, ss)) {
+        const KdRxClass* rxClass = entity->isA();
+        if (names.ofClass(rxClass))
+            ++countsOfClasses.at(rxClass);
+        else
+            ++counts[{names.of(*entity), rxClass}];
+    }
     for (const KdDbEntity* example : examples) {
         const std::wstring& name = names.of(*example);
         const KdRxClass* rxClass = example->isA();
-        visitor(context,
-                Type{name.c_str(), rxClass->name(), example->objectId(), counts[{name, rxClass}]});
+        const std::size_t count =
+            names.ofClass(rxClass) ? countsOfClasses.at(rxClass) : counts[{name, rxClass}];
+        visitor(context, Type{name.c_str(), rxClass->name(), example->objectId(), count});
     }
 }
 

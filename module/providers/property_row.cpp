@@ -1,6 +1,9 @@
 #include <providers/property_row.h>
 
+#include <array>
+#include <cstdint>
 #include <functional>
+#include <string>
 
 #include <platform/resources.h>
 
@@ -8,19 +11,63 @@
 
 namespace {
 
+/// The library's own text; empty if it lacks the text.
+std::wstring_view storedText(const ResourceText& text)
+{
+    const wchar_t* stored = nullptr;
+    const int length = LoadStringW(AfxGetResourceHandle(), static_cast<unsigned>(text.id),
+                                   reinterpret_cast<wchar_t*>(&stored), 0);
+    return length > 0 ? std::wstring_view(stored, static_cast<std::size_t>(length))
+                      : std::wstring_view();
+}
+
 /// True if `equal` finds `other` to be the text. The library's own text serves as it lies; only a
 /// missing one takes the loud way.
 template <class Equal>
 bool isText(const ResourceText& text, std::wstring_view other, Equal equal)
 {
-    const wchar_t* stored = nullptr;
-    const int length = LoadStringW(AfxGetResourceHandle(), static_cast<unsigned>(text.id),
-                                   reinterpret_cast<wchar_t*>(&stored), 0);
-    if (length > 0)
-        return equal(other, std::wstring_view(stored, static_cast<std::size_t>(length)));
+    const std::wstring_view stored = storedText(text);
+    if (!stored.empty())
+        return equal(other, stored);
     __ResourceString substitute(text.id, text.defaultText, nullptr);
     return equal(other, std::wstring_view(static_cast<const wchar_t*>(substitute)));
 }
+
+/// The last search in one table. A run looks for one key with each of its entities.
+class LastSearch
+{
+  public:
+    /// Whether the outcome for this key is known.
+    bool isFor(std::span<const PropertyRow> rows, std::wstring_view key) const
+    {
+        return m_isKnown && m_rows.data() == rows.data() && m_rows.size() == rows.size() &&
+               m_library == AfxGetResourceHandle() && m_key == key;
+    }
+    void search(std::span<const PropertyRow> rows, std::wstring_view key)
+    {
+        m_rows = rows;
+        m_library = AfxGetResourceHandle();
+        m_key = key;
+        m_found = nullptr;
+        m_isKnown = true;
+        for (const PropertyRow& row : rows) {
+            // What the library lacks is told at each use.
+            m_isKnown = m_isKnown && !storedText(row.key).empty();
+            if (row.key.matches(key)) {
+                m_found = &row;
+                return;
+            }
+        }
+    }
+    const PropertyRow* found() const { return m_found; }
+
+  private:
+    std::span<const PropertyRow> m_rows;
+    HINSTANCE m_library = nullptr;
+    std::wstring m_key;
+    const PropertyRow* m_found = nullptr;
+    bool m_isKnown = false;
+};
 
 } // namespace
 
@@ -52,11 +99,12 @@ void listRows(std::span<const PropertyRow> rows, const KdDbEntity* entity, KdArr
 
 const PropertyRow* findRow(std::span<const PropertyRow> rows, const KdString& name)
 {
-    for (const PropertyRow& row : rows) {
-        if (row.key.matches(name))
-            return &row;
-    }
-    return nullptr;
+    static std::array<LastSearch, 128> lastSearches; // a few rounds of tables, by their places
+    const auto number = reinterpret_cast<std::uintptr_t>(rows.data()) / alignof(PropertyRow);
+    LastSearch& last = lastSearches[number % lastSearches.size()];
+    if (!last.isFor(rows, name))
+        last.search(rows, name);
+    return last.found();
 }
 
 int answerRow(const PropertyRow& row, const PropertyRequest& request)

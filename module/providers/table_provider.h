@@ -1,6 +1,8 @@
 /// The common shape of providers: a base, a host class, and a table of rows.
 #pragma once
 
+#include <utility>
+
 #include <providers/property_row.h>
 
 /// Lists the base's properties and then `Self::rows()`; answers a key from the rows or asks the
@@ -24,7 +26,7 @@ class TableProvider : public Base
             return 0;
         if (const PropertyRow* row = findRow(Self::rows(), name))
             return answerRow(*row, {*entity, *result, asDisplayText, withChoices});
-        return Base::PropertyValueGet(entity, name, result, asDisplayText, withChoices);
+        return Base::PropertyValueGet(entity, std::move(name), result, asDisplayText, withChoices);
     }
 };
 

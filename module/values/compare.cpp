@@ -17,8 +17,6 @@
 
 namespace {
 
-constexpr double kDefaultTolerance = 1.0e-8;
-
 /// In place of the tolerance that follows from the drawing; see `ScopedTolerance`.
 std::optional<double> givenTolerance;
 
@@ -209,21 +207,36 @@ bool comparePoints(const ResBuf& value, const ResBuf& filter, Operators how, Coo
 
 } // namespace
 
-bool CompareProp(ResBuf* value, ResBuf* filter, PropertyParameters parameters)
+PropertyComparison::PropertyComparison(const PropertyParameters& parameters)
+    : m_selectsAll(parameters.operatorText.isEmpty()),
+      m_isPoint(parameters.valueType == ResBuf::kPoint2d ||
+                parameters.valueType == ResBuf::kPoint3d),
+      m_how(operatorOf(parameters.operatorText).value_or(Operators::SelectAll))
 {
-    if (parameters.operatorText.isEmpty())
+    if (m_isPoint)
+        m_coordinate = coordinateOf(parameters.valueType, parameters.axis);
+    for (const ComparisonRow& row : kComparisons) {
+        if (row.valueType == parameters.valueType) {
+            m_compare = row.compare;
+            break;
+        }
+    }
+}
+
+bool PropertyComparison::satisfies(const ResBuf* value, const ResBuf* filter) const
+{
+    if (m_selectsAll)
         return true;
     if (!value || !filter)
         return false;
+    if (m_isPoint)
+        return comparePoints(*value, *filter, m_how, m_coordinate);
+    return m_compare && m_compare(*value, *filter, m_how);
+}
 
-    const Operators how = operatorOf(parameters.operatorText).value_or(Operators::SelectAll);
-    const int valueType = parameters.valueType;
-    if (valueType == ResBuf::kPoint2d || valueType == ResBuf::kPoint3d)
-        return comparePoints(*value, *filter, how, coordinateOf(valueType, parameters.axis));
-    for (const ComparisonRow& row : kComparisons)
-        if (row.valueType == valueType)
-            return row.compare(*value, *filter, how);
-    return false;
+bool CompareProp(ResBuf* value, ResBuf* filter, PropertyParameters parameters)
+{
+    return PropertyComparison(parameters).satisfies(value, filter);
 }
 
 double CompareDynamicEpsilon(double fallback)

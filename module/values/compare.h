@@ -3,6 +3,7 @@
 
 #include <optional>
 
+#include <values/operators.h>
 #include <values/property_parameters.h>
 
 /// Compares the value of an entity with the filter, by operator and kind in `parameters`. Reals
@@ -15,6 +16,29 @@
 ///                does not offer, or a point without an axis, is a mistake of the caller and
 ///                satisfies nothing
 bool CompareProp(ResBuf* value, ResBuf* filter, PropertyParameters parameters);
+
+/// The same comparison, made ready once for many values: what follows from the parameters alone is
+/// found out here. The parameters must outlive it.
+class PropertyComparison
+{
+  public:
+    explicit PropertyComparison(const PropertyParameters& parameters);
+    /// See `CompareProp`.
+    bool satisfies(const ResBuf* value, const ResBuf* filter) const;
+
+  private:
+    using Compare = bool (*)(const ResBuf& value, const ResBuf& filter, Operators how);
+    using Coordinate = double (*)(const ResBuf& record);
+
+    bool m_selectsAll;
+    bool m_isPoint;
+    Operators m_how;
+    Compare m_compare = nullptr;       ///< null: nothing satisfies
+    Coordinate m_coordinate = nullptr; ///< of points
+};
+
+/// Within which reals count as equal where the drawing does not say.
+constexpr double kDefaultTolerance = 1.0e-8;
 
 /// The tolerance that follows from the linear precision of the drawing: one displayed unit.
 /// @param fallback  the answer when the precision is not to be had

@@ -120,9 +120,8 @@ unsigned int displayNameId(std::wstring_view className)
     return row == ids.end() ? 0 : row->second;
 }
 
-std::wstring_view classNameOf(const KdDbEntity& entity)
+std::wstring_view classNameOf(const KdRxClass* rxClass)
 {
-    const KdRxClass* const rxClass = entity.isA();
     if (!rxClass)
         return {};
     const std::wstring_view name = rxClass->name();
@@ -198,20 +197,31 @@ CStdStr<wchar_t> GetLocalNameOfKdDbEntityEx(const KdDbEntity* entity)
 {
     if (!entity)
         return {};
-    if (const unsigned int id = displayNameId(classNameOf(*entity)))
+    if (const unsigned int id = displayNameId(classNameOf(entity->isA())))
         return GetOPMStr(id);
     return GetEntityDisplayName(entity->objectId());
 }
 
 const CStdStr<wchar_t>& DisplayNames::of(const KdDbEntity& entity)
 {
-    const KdRxClass* const rxClass = entity.isA();
-    const auto known = m_ofClass.find(rxClass);
-    if (known != m_ofClass.end())
-        return known->second;
-    if (const unsigned int id = displayNameId(classNameOf(entity)))
-        return m_ofClass[rxClass] = GetOPMStr(id);
+    if (const CStdStr<wchar_t>* name = ofClass(entity.isA()))
+        return *name;
     return m_ofEntity = GetEntityDisplayName(entity.objectId());
+}
+
+const CStdStr<wchar_t>* DisplayNames::ofClass(const KdRxClass* rxClass)
+{
+    if (!rxClass)
+        return nullptr;
+    ClassName& name = m_ofClasses.at(rxClass);
+    if (!name.isKnown) {
+        name.isKnown = true;
+        if (const unsigned int id = displayNameId(classNameOf(rxClass))) {
+            name.isOfAll = true;
+            name.text = GetOPMStr(id);
+        }
+    }
+    return name.isOfAll ? &name.text : nullptr;
 }
 
 CStdStr<wchar_t> GetEntityDisplayName(KdDbObjectId id)

@@ -1,11 +1,11 @@
 /// The names under which types of entities appear to the user, and by which a run tells them apart.
 #pragma once
 
-#include <unordered_map>
-
 #include <database/entity.h>
 #include <platform/com.h>
 #include <runtime/std_str.h>
+
+#include <values/class_map.h>
 
 /// The display name of an entity's type, from the module's table of classes or else from the host's
 /// object model. Empty for null, for a class of the table without a text, and where the object
@@ -19,9 +19,19 @@ class DisplayNames
   public:
     /// As `GetLocalNameOfKdDbEntityEx`; valid until the next call.
     const CStdStr<wchar_t>& of(const KdDbEntity& entity);
+    /// The name that all entities of a class have; null where each may have another. Valid until
+    /// the next call.
+    const CStdStr<wchar_t>* ofClass(const KdRxClass* rxClass);
 
   private:
-    std::unordered_map<const KdRxClass*, CStdStr<wchar_t>> m_ofClass;
+    struct ClassName
+    {
+        bool isKnown = false;
+        bool isOfAll = false; ///< all entities of the class have it
+        CStdStr<wchar_t> text;
+    };
+
+    ClassMap<ClassName> m_ofClasses;
     CStdStr<wchar_t> m_ofEntity;
 };
 

@@ -13,6 +13,18 @@ class ValueChain
     ValueChain& operator=(const ValueChain&) = delete;
 
     ResBuf*& head() { return m_head; }
+    /// Leaves one empty record again, as at the start.
+    void reset()
+    {
+        if (!m_head) {
+            m_head = ResBuf::newRb(ResBuf::kNone);
+            return;
+        }
+        ResBuf* followers = m_head->next();
+        m_head->setNext(nullptr);
+        ResBuf::relRb(followers);
+        m_head->setRestype(ResBuf::kNone);
+    }
 
   private:
     ResBuf* m_head;
