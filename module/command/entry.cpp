@@ -1,5 +1,6 @@
 #include <command/entry.h>
 
+#include <command/gathering.h>
 #include <command/last_request.h>
 #include <command/property_listing.h>
 #include <command/qselect_command.h>
@@ -76,6 +77,11 @@ void QSelectListProperties(KdDbObjectId entity, const wchar_t* onlyKey, bool wit
 void QSelectListOperators(int restype, quick_select::OperatorVisitor visitor, void* context)
 {
     listOperators(restype, visitor, context);
+}
+
+void QSelectHoldDrawing(bool hold)
+{
+    holdDrawing(hold);
 }
 
 double QSelectTolerance()

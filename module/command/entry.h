@@ -36,4 +36,5 @@ KW_EXPORT void QSelectListOperators(int restype, quick_select::OperatorVisitor v
                                     void* context);
 KW_EXPORT double QSelectTolerance();
 KW_EXPORT void QSelectLastRequest(quick_select::RequestVisitor visitor, void* context);
+KW_EXPORT void QSelectHoldDrawing(bool hold);
 }

@@ -1,8 +1,9 @@
 #include <command/gathering.h>
 
 #include <algorithm>
-#include <map>
 #include <memory>
+#include <optional>
+#include <unordered_set>
 
 #include <database/database.h>
 #include <editor/selection_sets.h>
@@ -11,6 +12,7 @@
 #include <platform/main_app_service.h>
 #include <platform/message_box.h>
 
+#include <values/class_map.h>
 #include <values/display_name.h>
 #include <values/globals.h>
 #include <values/resource_string.h>
@@ -36,12 +38,6 @@ KdDbObjectId modelSpace(KdDbDatabase& database)
     return id;
 }
 
-bool isSheetViewport(const KdDbEntity& entity)
-{
-    return entity.isKindOf(KdDbViewport::desc()) &&
-           static_cast<const KdDbViewport&>(entity).number() == kSheetViewport;
-}
-
 /// Collects entities and the first one of each display name.
 class TypeCollector
 {
@@ -51,23 +47,83 @@ class TypeCollector
     {
     }
 
+    /// The entity's class must be known.
     void add(KdDbEntity& entity)
+    {
+        if (!m_classes.at(entity.isA()).isSeen)
+            see(entity);
+        m_all.push_back(&entity);
+    }
+
+    bool isSheetViewport(const KdDbEntity& entity)
+    {
+        ClassNotes& notes = m_classes.at(entity.isA());
+        if (notes.kind == ClassNotes::Kind::Unknown)
+            notes.kind = entity.isKindOf(KdDbViewport::desc()) ? ClassNotes::Kind::Viewport
+                                                               : ClassNotes::Kind::Other;
+        return notes.kind == ClassNotes::Kind::Viewport &&
+               static_cast<const KdDbViewport&>(entity).number() == kSheetViewport;
+    }
+
+  private:
+    struct ClassNotes
+    {
+        enum class Kind : std::uint8_t
+        {
+            Unknown,
+            Viewport,
+            Other,
+        };
+        Kind kind = Kind::Unknown;
+        bool isSeen = false; ///< all its entities have one name, and that was entered
+    };
+
+    void see(KdDbEntity& entity)
     {
         const std::wstring& name = m_names.of(entity);
         // Looked up before it is entered, because entering allocates even for a name that is there.
         if (!name.empty() && !m_seen.contains(name)) {
-            m_seen.emplace(name, 1);
+            m_seen.insert(name);
             m_types.push_back(&entity);
         }
-        m_all.push_back(&entity);
+        m_classes.at(entity.isA()).isSeen = m_names.ofClass(entity.isA()) != nullptr;
     }
 
-  private:
     std::vector<KdDbEntity*>& m_all;
     std::vector<KdDbEntity*>& m_types;
     DisplayNames m_names;
-    std::map<std::wstring, int> m_seen;
+    std::unordered_set<std::wstring> m_seen;
+    ClassMap<ClassNotes> m_classes;
 };
+
+SpaceStatus gatherBlock(KdDbObjectId block, Candidates& candidates)
+{
+    const OpenForRead<KdDbBlockTableRecord> space(block);
+    KdDbBlockTableRecordIterator* walker = nullptr;
+    if (!space || space->newIterator(walker, true, true) != eOk || !walker)
+        return SpaceStatus::Unreadable;
+    const std::unique_ptr<KdDbBlockTableRecordIterator> iterator(walker);
+    TypeCollector collector(candidates.allEntities, candidates.drawingTypeEntities);
+    for (iterator->start(true, true); !iterator->done(); iterator->step(true, true)) {
+        KdDbEntity* entity = nullptr;
+        if (iterator->getEntity(entity, KdDb::kForRead) != eOk)
+            continue;
+        if (entity->isA() && !collector.isSheetViewport(*entity))
+            collector.add(*entity);
+        entity->close();
+    }
+    return candidates.drawingTypeEntities.empty() ? SpaceStatus::Empty : SpaceStatus::Ready;
+}
+
+/// What was gathered while the drawing is held.
+struct Held
+{
+    bool isHolding = false;
+    std::optional<KdDbObjectId> space; ///< none: nothing was gathered yet
+    SpaceStatus status = SpaceStatus::Unreadable;
+    Candidates found;
+};
+Held held;
 
 } // namespace
 
@@ -107,21 +163,23 @@ KdDbObjectId currentSpace()
 
 SpaceStatus gatherSpace(Candidates& candidates)
 {
-    const OpenForRead<KdDbBlockTableRecord> space(currentSpace());
-    KdDbBlockTableRecordIterator* walker = nullptr;
-    if (!space || space->newIterator(walker, true, true) != eOk || !walker)
-        return SpaceStatus::Unreadable;
-    const std::unique_ptr<KdDbBlockTableRecordIterator> iterator(walker);
-    TypeCollector collector(candidates.allEntities, candidates.drawingTypeEntities);
-    for (iterator->start(true, true); !iterator->done(); iterator->step(true, true)) {
-        KdDbEntity* entity = nullptr;
-        if (iterator->getEntity(entity, KdDb::kForRead) != eOk)
-            continue;
-        if (!isSheetViewport(*entity) && entity->isA())
-            collector.add(*entity);
-        entity->close();
+    if (!held.isHolding)
+        return gatherBlock(currentSpace(), candidates);
+    const KdDbObjectId space = currentSpace();
+    if (!held.space || *held.space != space) {
+        held.found = {};
+        held.status = gatherBlock(space, held.found);
+        held.space = space;
     }
-    return candidates.drawingTypeEntities.empty() ? SpaceStatus::Empty : SpaceStatus::Ready;
+    candidates.allEntities = held.found.allEntities;
+    candidates.drawingTypeEntities = held.found.drawingTypeEntities;
+    return held.status;
+}
+
+void holdDrawing(bool hold)
+{
+    held = {};
+    held.isHolding = hold;
 }
 
 void tellNoObjects()

@@ -33,6 +33,10 @@ enum class SpaceStatus
 /// Gathers the entities of the current space. Sheet viewports are never candidates.
 SpaceStatus gatherSpace(Candidates& candidates);
 
+/// With true, one space is gathered once until the next call: the caller promises that nothing
+/// changes in it. Each call drops what was gathered before.
+void holdDrawing(bool hold);
+
 /// Says that the space holds no objects, as a message box, and gives the focus back to the drawing.
 void tellNoObjects();
 

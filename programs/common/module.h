@@ -28,6 +28,7 @@ class Module
     quick_select::QSelectListOperatorsFunction* listOperators = nullptr;
     quick_select::QSelectToleranceFunction* tolerance = nullptr;
     quick_select::QSelectLastRequestFunction* lastRequest = nullptr;
+    quick_select::QSelectHoldDrawingFunction* holdDrawing = nullptr;
 
   private:
     template <class Function>

@@ -44,7 +44,9 @@ class Search
         std::vector<SearchSpace> spaces;
         if (!findSpaces(m_drawing.database(), m_options.space, spaces, m_result.missing))
             return m_result;
+        const Release release(m_module);
         for (const SearchSpace& space : spaces) {
+            m_module.holdDrawing(true); // anew for each space
             enterSpace(m_drawing.database(), space);
             m_columns.setSpace(space.label);
             if (!searchSpace(space))
@@ -55,6 +57,19 @@ class Search
     }
 
   private:
+    /// Ends the promise that nothing changes in the drawing.
+    class Release
+    {
+      public:
+        explicit Release(const Module& module) : m_module(module) {}
+        ~Release() { m_module.holdDrawing(false); }
+        Release(const Release&) = delete;
+        Release& operator=(const Release&) = delete;
+
+      private:
+        const Module& m_module;
+    };
+
     /// False: the search ends with a problem that has been told.
     bool searchSpace(const SearchSpace& space)
     {

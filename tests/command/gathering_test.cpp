@@ -74,6 +74,43 @@ TEST_F(Gathering, OfTheModelTakesItsEntitiesInTheirOrder)
     EXPECT_THAT(candidates.allEntities, ElementsAre(first, second));
 }
 
+TEST_F(Gathering, OfAHeldDrawingHappensOnceForEachSpace)
+{
+    KdDbEntity* first = add<KdDbLine>(model());
+    holdDrawing(true);
+    gather();
+    KdDbEntity* second = add<KdDbCircle>(model());
+    candidates = {};
+    EXPECT_EQ(gather(), SpaceStatus::Ready);
+    EXPECT_THAT(candidates.allEntities, ElementsAre(first));
+    EXPECT_THAT(candidates.drawingTypeEntities, ElementsAre(first));
+
+    KdDbEntity* onSheet = add<KdDbCircle>(sheet());
+    showSheet(1);
+    candidates = {};
+    gather();
+    EXPECT_THAT(candidates.allEntities, ElementsAre(onSheet));
+
+    ASSERT_EQ(setShort(L"TILEMODE", 1), RTNORM);
+    holdDrawing(true); // anew
+    candidates = {};
+    gather();
+    EXPECT_THAT(candidates.allEntities, ElementsAre(first, second));
+    holdDrawing(false);
+}
+
+TEST_F(Gathering, OfADrawingThatIsHeldNoMoreSeesWhatChanged)
+{
+    KdDbEntity* first = add<KdDbLine>(model());
+    holdDrawing(true);
+    gather();
+    holdDrawing(false);
+    KdDbEntity* second = add<KdDbCircle>(model());
+    candidates = {};
+    gather();
+    EXPECT_THAT(candidates.allEntities, ElementsAre(first, second));
+}
+
 TEST_F(Gathering, OnTheSheetItselfTakesTheActiveLayout)
 {
     add(model());

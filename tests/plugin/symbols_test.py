@@ -21,6 +21,7 @@ EXPORTED = {
     "QSelectListEntities",
     "QSelectListProperties",
     "QSelectListOperators",
+    "QSelectHoldDrawing",
     "QSelectTolerance",
     "QSelectLastRequest",
     # globals

@@ -127,6 +127,10 @@ using QSelectListPropertiesFunction = void(KdDbObjectId entity, const wchar_t* o
 using QSelectLastRequestFunction = void(RequestVisitor visitor, void* context);
 /// "QSelectTolerance": within what reals count as equal, by the drawing's linear precision.
 using QSelectToleranceFunction = double();
+/// "QSelectHoldDrawing": with true the program promises that nothing changes in the drawings until
+/// the next call, so what the functions above gather from one space is gathered once. Each call
+/// drops what was gathered before. At first nothing is promised.
+using QSelectHoldDrawingFunction = void(bool hold);
 /// "QSelectListOperators": the operators that values of a kind offer, in the dialog's order.
 using QSelectListOperatorsFunction = void(int restype, OperatorVisitor visitor, void* context);
 
