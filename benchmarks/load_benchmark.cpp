@@ -48,6 +48,12 @@ Measurement load(bool readAllMembers)
 
 } // namespace
 
+void registerDistinctLoading(long entities)
+{
+    registerMeasurement("distinct/index", entities, load(false));
+    registerMeasurement("distinct/all members", entities, load(true));
+}
+
 void registerLoading(long entities)
 {
     registerMeasurement("load/index", entities, load(false));

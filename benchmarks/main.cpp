@@ -1,4 +1,5 @@
 // Measures loading and selecting over generated drawings.
+#include <algorithm>
 #include <iostream>
 
 #include <common/module.h>
@@ -11,14 +12,15 @@ namespace {
 
 bool drawingsAreThere()
 {
-    for (const long entities : kSampleSizes) {
+    const auto isThere = [](long entities) {
         if (std::filesystem::exists(sampleDrawing(entities)))
-            continue;
+            return true;
         std::cerr << "quick_select_benchmark: " << sampleDrawing(entities).native()
                   << " is missing: build the target benchmark_drawings\n";
         return false;
-    }
-    return true;
+    };
+    return std::ranges::all_of(kSampleSizes, isThere) &&
+           std::ranges::all_of(kDistinctSizes, isThere);
 }
 
 } // namespace
@@ -37,7 +39,12 @@ int main(int argc, char** argv)
     for (const long entities : kSampleSizes) {
         registerBaselines(entities);
         registerLoading(entities);
+        registerKinds(entities);
         registerQuickSelect(module, entities);
+    }
+    for (const long entities : kDistinctSizes) {
+        registerDistinctLoading(entities);
+        registerDistinct(module, entities);
     }
     benchmark::RunSpecifiedBenchmarks();
     benchmark::Shutdown();

@@ -19,6 +19,9 @@ struct Filter
     const wchar_t* property;
     const wchar_t* operatorText;
     const wchar_t* value;
+    int axis = 0; ///< of a point: 1 X, 2 Y, 3 Z
+    bool exclude = false;
+    bool append = false;
 };
 
 constexpr Filter kFilters[] = {
@@ -27,11 +30,33 @@ constexpr Filter kFilters[] = {
     {"texts by contents", L"Text", L"Contents", L"*", L"*Valve*"},
     {"everything by layer", L"", L"Layer", L"=", L"PIPE-003"},
     {"everything", L"", L"Layer", L"", L""},
+    {"everything but circles by radius", L"Circle", L"Radius", L">", L"50", 0, true},
+};
+
+/// Over a selection of everything: both have to do with a million members.
+constexpr Filter kAppending = {
+    "circles joining everything", L"Circle", L"Radius", L">", L"50", 0, false, true};
+
+/// Over drawings in which nothing stands twice.
+constexpr Filter kDistinctFilters[] = {
+    {"layer", L"", L"Layer", L"=", L"LAYER-0000001"},
+    {"contents", L"Text", L"Contents", L"=", L"Pump 0000001"},
+    {"block", L"Block Reference", L"Name", L"=", L"PART-0000001"},
 };
 
 /// The same kinds of test, with values that no entity has: nothing is handed over.
 constexpr Filter kFruitlessFilters[] = {
     {"circles by radius", L"Circle", L"Radius", L">", L"1000000"},
+    {"lines by start", L"Line", L"Start", L">", L"1000000", 1},
+    {"lines by angle", L"Line", L"Angle", L">", L"359.99999"},
+    {"lines by layer", L"Line", L"Layer", L"=", L"NOWHERE"},
+    {"lines by color", L"Line", L"Color", L"=", L"1,2,3"},
+    {"lines by linetype", L"Line", L"Linetype", L"=", L"NOWHERE"},
+    {"lines by linetype scale", L"Line", L"Linetype scale", L">", L"1000000"},
+    {"polylines by vertex", L"Polyline", L"Vertex", L">", L"1000000", 1},
+    {"polylines by length", L"Polyline", L"Length", L">", L"1000000"},
+    {"texts by contents", L"Text", L"Contents", L"*", L"*Nothing*"},
+    {"hatches by area", L"Hatch", L"Area", L">", L"1000000"},
     {"everything by layer", L"", L"Layer", L"=", L"NOWHERE"},
 };
 
@@ -68,6 +93,9 @@ class Search
         request.typeName = m_filter.type;
         request.className = m_className.c_str();
         request.propertyKey = m_property.key.c_str();
+        request.axis = m_filter.axis;
+        request.exclude = m_filter.exclude;
+        request.append = m_filter.append;
         request.kind = m_property.restype();
         request.operatorText = m_filter.operatorText;
         request.valueText = m_filter.value;
@@ -136,6 +164,23 @@ Measurement repeatedRuns(const Module& module, const Filter& filter, bool should
     };
 }
 
+/// Runs that add to a selection of everything.
+Measurement appendingRuns(const Module& module)
+{
+    return [&module](benchmark::State& state, long entities) {
+        ReadOptions options;
+        options.readAllMembers = true;
+        const WorkingDrawing drawing(state, entities, options);
+        const Search everything(module, {"everything", L"", L"Layer", L"", L""});
+        const Search search(module, kAppending);
+        if (!run(state, module, everything, true))
+            return;
+        for (auto _ : state)
+            if (!run(state, module, search, true))
+                break;
+    };
+}
+
 /// The first run after loading, which reads the members that it needs.
 Measurement firstRun(const Module& module, const Filter& filter)
 {
@@ -155,6 +200,14 @@ Measurement firstRun(const Module& module, const Filter& filter)
 
 } // namespace
 
+void registerDistinct(const Module& module, long entities)
+{
+    registerMeasurement("distinct/gather", entities, gather(module));
+    for (const Filter& filter : kDistinctFilters)
+        registerMeasurement(std::string("distinct/") + filter.name, entities,
+                            repeatedRuns(module, filter, true));
+}
+
 void registerQuickSelect(const Module& module, long entities)
 {
     registerMeasurement("gather", entities, gather(module));
@@ -164,6 +217,7 @@ void registerQuickSelect(const Module& module, long entities)
     for (const Filter& filter : kFilters)
         registerMeasurement(std::string("run/") + filter.name, entities,
                             repeatedRuns(module, filter, true));
+    registerMeasurement(std::string("run/") + kAppending.name, entities, appendingRuns(module));
     for (const Filter& filter : kFilters)
         registerMeasurement(std::string("first run/") + filter.name, entities,
                             firstRun(module, filter));

@@ -23,33 +23,45 @@ def milliseconds(result):
         return ""
     if result.get("error_occurred"):
         return "failed"
-    return f"{result['real_time']:.1f}"
+    return f"{result['cpu_time']:.1f}"
 
 
 def rates(result):
-    """CPU time, entities and bytes a second, and memory for each entity where it was measured."""
+    """Nanoseconds for an entity, bytes a second, and memory for each entity where it was measured."""
     if result is None or result.get("error_occurred"):
-        return ["", "", "", ""]
-    processor = f"{result['cpu_time']:.1f}"
-    entities = f"{result['items_per_second'] / 1e6:.2f}"
-    megabytes = f"{result['bytes_per_second'] / 1e6:.0f}"
+        return ["", "", ""]
+    # What the library tells as rates goes by wall-clock time.
+    seconds = result["real_time"] / 1e3
+    entities = result["items_per_second"] * seconds
+    size = result["bytes_per_second"] * seconds
+    nanoseconds = f"{result['cpu_time'] * 1e6 / entities:.0f}"
+    megabytes = f"{size / result['cpu_time'] / 1e3:.0f}"
     memory = f"{result['bytes_per_entity']:.0f}" if "bytes_per_entity" in result else ""
-    return [processor, entities, megabytes, memory]
+    return [nanoseconds, megabytes, memory]
 
 
 def main():
     context, measured = read_results(sys.argv[1])
-    sizes = sorted({size for results in measured.values() for size in results})
+    distinct = {name: results for name, results in measured.items() if name.startswith("distinct")}
+    mixed = {name: results for name, results in measured.items() if name not in distinct}
     load = ", ".join(f"{value:.1f}" for value in context["load_avg"])
     print(f"{context['num_cpus']} cores of {context['mhz_per_cpu']} MHz, load {load},", end=" ")
     print(f"{context['date'][:10]}\n")
+    for table in filter(None, (mixed, distinct)):
+        print_table(table)
+
+
+def print_table(measured):
+    """One table; its columns are the sizes that were measured."""
+    sizes = sorted({size for results in measured.values() for size in results})
     heads = [f"{size:,} (ms)" for size in sizes]
-    heads += ["CPU (ms)", "M entities/s", "MB/s", "bytes/entity"]
+    heads += ["ns/entity", "MB/s", "bytes/entity"]
     print("| Benchmark |", " | ".join(heads), "|")
     print("|---|" + "--:|" * len(heads))
     for name, results in measured.items():
         times = [milliseconds(results.get(size)) for size in sizes]
         print("|", " | ".join([name, *times, *rates(results.get(sizes[-1]))]), "|")
+    print()
 
 
 if __name__ == "__main__":

@@ -13,6 +13,9 @@
 /// The numbers of entities in the models of the sample drawings.
 constexpr long kSampleSizes[] = {10'000, 100'000, 1'000'000};
 
+/// The same of drawings in which no layer, block or text stands twice.
+constexpr long kDistinctSizes[] = {2'000, 20'000, 200'000};
+
 /// The drawing of that size; made by the target `benchmark_drawings`.
 std::filesystem::path sampleDrawing(long entities);
 long sampleBytes(long entities);
