@@ -74,10 +74,8 @@ SettingsStatus statusOf(FileLock::Outcome outcome)
 /// The caller holds the lock.
 bool replaceFile(const fs::path& path, std::string_view bytes)
 {
-    SafeFileRules rules{.overwrite = true, .ownerOnly = true, .beside = path};
-    rules.beside += ".new";
     KdString error;
-    return kdWriteFile(path, bytes, rules, error) == eOk;
+    return kdWriteFile(path, bytes, {.overwrite = true, .ownerOnly = true}, error) == eOk;
 }
 
 bool putAside(const fs::path& path)

@@ -1,6 +1,10 @@
 #include <clocale>
+#include <csignal>
 #include <exception>
 #include <iostream>
+
+#include <fcntl.h>
+#include <unistd.h>
 
 #include <common/filter_file.h>
 #include <runtime/utf8.h>
@@ -88,10 +92,22 @@ int run(const Options& options)
     return options.audit ? finished(output, auditDrawings(plan)) : search(plan, output);
 }
 
+/// Files that are opened later must not come to stand for a standard stream that is closed: what is
+/// printed would go into them. Printing into this one fails, and is told.
+void holdStandardStreams()
+{
+    for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
+        if (fcntl(stream, F_GETFD) < 0)
+            open("/dev/null", O_RDONLY); // takes the lowest free number, which is this one
+    }
+}
+
 } // namespace
 
 int main(int argc, char** argv)
 {
+    holdStandardStreams();
+    std::signal(SIGXFSZ, SIG_IGN); // a file that grows too large is told like a full disk
     std::ios::sync_with_stdio(false);
     std::setlocale(LC_CTYPE, "C.UTF-8"); // how wide characters are, for aligned tables
     Options options;

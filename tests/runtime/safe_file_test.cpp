@@ -47,22 +47,12 @@ TEST_F(WrittenFile, IsForItsOwnerAloneWhenAskedTo)
     EXPECT_EQ(entries(), 1);
 }
 
-TEST_F(WrittenFile, WritesOverWhatADyingWriterLeft)
-{
-    std::ofstream(folder / "a.new") << "a much longer text that is cut of";
-    const SafeFileRules rules{.beside = folder / "a.new"};
-    EXPECT_EQ(kdWriteFile(folder / "a", "text", rules, error), eOk);
-    EXPECT_EQ(contentOf(folder / "a"), "text");
-    EXPECT_EQ(entries(), 1);
-}
-
 TEST_F(WrittenFile, IsNotThereWithoutItsEnd)
 {
     {
         SafeFile file;
         ASSERT_EQ(file.open(folder / "a", {}, error), eOk);
         file.write("text");
-        EXPECT_EQ(entries(), 1);
         EXPECT_FALSE(fs::exists(folder / "a"));
     }
     EXPECT_EQ(entries(), 0);

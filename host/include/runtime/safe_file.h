@@ -9,6 +9,7 @@
 
 #include <runtime/export.h>
 #include <runtime/kd_string.h>
+#include <runtime/pending_file.h>
 #include <runtime/status.h>
 
 /// Tells files apart, whatever their names.
@@ -32,21 +33,13 @@ struct SafeFileRules
     FileIdentity untouchable = {};
     /// A new file is nobody's business but the user's.
     bool ownerOnly = false;
-    /// The name under which the content is written first. Only for a writer who holds a lock: what
-    /// a dying one left under this name is written over. Empty: a name that nobody else uses.
-    std::filesystem::path beside = {};
 };
 
-/// The content goes into a new file in the target's folder, which takes the target's name at the
-/// end. Without `finish` it is removed again. After a failure all further calls do nothing.
+/// A `KdPendingFile` with a buffer, and with failures as sentences. After one all further calls do
+/// nothing.
 class KW_EXPORT SafeFile
 {
   public:
-    SafeFile() = default;
-    ~SafeFile();
-    SafeFile(const SafeFile&) = delete;
-    SafeFile& operator=(const SafeFile&) = delete;
-
     /// Begins a file. A link is followed, so that what it points to is replaced and not the link.
     /// @param error  a sentence for the user on failure, otherwise untouched
     /// @return       `eDuplicateKey` for a file that must not be replaced, `eFileAccessError` for
@@ -59,19 +52,11 @@ class KW_EXPORT SafeFile
     KdErrorStatus finish(KdString& error);
 
   private:
-    KdErrorStatus checkTarget(const SafeFileRules& rules, KdString& error);
-    bool makeTemporary(const std::filesystem::path& beside);
-    bool rename() const;
     void flush();
-    void discard();
 
-    std::filesystem::path m_target;
-    std::string m_temporary; ///< empty: there is none
+    KdPendingFile m_file;
     std::string m_buffer;
-    int m_descriptor = -1;
     int m_failure = 0; ///< the first `errno`
-    bool m_overwrite = false;
-    unsigned m_mode = 0;
 };
 
 /// Writes a file in one go, see `SafeFile`.
