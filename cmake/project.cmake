@@ -68,6 +68,23 @@ function(project_objects target)
   endforeach()
 endfunction()
 
+# project_leftovers(<test program> <library>...)
+# Has the tests of a program fail that leave something behind which those libraries count.
+function(project_leftovers target)
+  target_sources(${target} PRIVATE ${PROJECT_SOURCE_DIR}/tests/support/leftovers.cpp)
+  foreach(pair
+      host_database=opens kwhost=opens kwhostui=opens
+      host_editor=selection_sets kwhost=selection_sets kwhostui=selection_sets
+      module_values=value_records)
+    string(REPLACE "=" ";" pair ${pair})
+    list(GET pair 0 library)
+    list(GET pair 1 counted)
+    if(library IN_LIST ARGN)
+      target_sources(${target} PRIVATE ${PROJECT_SOURCE_DIR}/tests/support/count_${counted}.cpp)
+    endif()
+  endforeach()
+endfunction()
+
 # project_test(<folder> SOURCES <file>... LIBRARIES <object library>... [DEPS <target>...])
 # One test program for a folder, made of the objects of the named libraries, so that it reaches what
 # a shared library keeps to itself. Each of its tests is known to CTest by its own name.
@@ -78,6 +95,7 @@ function(project_test folder)
   add_executable(${target} ${ARG_SOURCES})
   target_link_libraries(${target} PRIVATE
     ${target}_objects ${ARG_DEPS} test_support GTest::gmock GTest::gtest_main)
+  project_leftovers(${target} ${ARG_LIBRARIES} ${ARG_DEPS})
   target_precompile_headers(${target} PRIVATE ${PROJECT_SOURCE_DIR}/cmake/precompiled_test.h)
   # Tests themselves need no speed, and from -O2 on GCC 12 warns of string code that is right.
   target_compile_options(${target} PRIVATE $<$<CONFIG:Release>:-O1>)

@@ -3,10 +3,15 @@
 #include <cassert>
 
 #include <database/database.h>
+#include <database/open_count.h>
 
 const KdDbObjectId KdDbObjectId::kNull{};
 
 KD_RX_DEFINE_ABSTRACT(KdDbObject, KdRxObject, L"AcDbObject")
+
+namespace {
+long long opensInUse = 0;
+} // namespace
 
 KdDbHandle KdDbObjectId::handle() const
 {
@@ -90,8 +95,10 @@ KdErrorStatus KdDbObject::close()
         --m_readers;
     else
         return eNotOpenForRead;
-    if (m_database)
+    if (m_database) {
         --m_database->m_openCount;
+        --opensInUse;
+    }
     return eOk;
 }
 
@@ -161,10 +168,17 @@ KdErrorStatus kddbOpenKdDbObject(KdDbObject*& object, KdDbObjectId id, int mode,
     } else {
         ++wanted->m_readers;
     }
-    if (wanted->m_database)
+    if (wanted->m_database) {
         ++wanted->m_database->m_openCount;
+        ++opensInUse;
+    }
     object = wanted;
     return eOk;
+}
+
+long long kddbOpensInUse() noexcept
+{
+    return opensInUse;
 }
 
 namespace {

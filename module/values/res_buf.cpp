@@ -28,6 +28,12 @@ bool holdsReal(int restype)
            restype == ResBuf::kLinetypeScale;
 }
 
+#ifdef NDEBUG
+constexpr int kCounted = 0;
+#else
+constexpr int kCounted = 1;
+#endif
+
 ResBuf* tailOf(ResBuf* record)
 {
     while (record->next())
@@ -42,13 +48,13 @@ long long ResBuf::s_recordsInUse = 0;
 
 ResBuf::ResBuf()
 {
-    ++s_recordsInUse;
+    s_recordsInUse += kCounted;
 }
 
 ResBuf::~ResBuf()
 {
     factoryOf(m_restype).destroy(&m_data);
-    --s_recordsInUse;
+    s_recordsInUse -= kCounted;
 }
 
 ResBuf* ResBuf::newRb(int restype)
