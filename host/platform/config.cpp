@@ -1,6 +1,8 @@
 #include <platform/config.h>
 
+#include <platform/message_box.h>
 #include <platform/settings_file.h>
+#include <runtime/utf8.h>
 
 #include <algorithm>
 #include <cstdint>
@@ -126,7 +128,29 @@ const wchar_t* KdadVariant::text() const
 struct KwdrawConfig::Store
 {
     fs::path folder = SettingsFile::standardFolder();
-    SettingsFile file{folder / "interface.settings"};
+    SettingsFile file{folder.empty() ? folder : folder / "interface.settings"};
+    SettingsStatus loaded = SettingsStatus::Good;
+    SettingsStatus saved = SettingsStatus::Good;
+
+    void load() { tell(file.load(), loaded); }
+    bool save()
+    {
+        tell(file.save(), saved);
+        return saved == SettingsStatus::Good;
+    }
+    /// Tells the user of a fault, once as long as it lasts.
+    void tell(SettingsStatus status, SettingsStatus& before) const
+    {
+        const bool isNew = status != loaded && status != saved;
+        if (isNew && status != SettingsStatus::Good)
+            AfxMessageBox(sentenceOf(status).c_str(), 0, 0);
+        before = status;
+    }
+    std::wstring sentenceOf(SettingsStatus status) const
+    {
+        const std::wstring place = kdFromUtf8(file.path().string());
+        return settingsStatusText(status) + (place.empty() ? place : L'\n' + place);
+    }
 };
 
 KwdrawConfig::KwdrawConfig() : m_store(std::make_unique<Store>()) {}
@@ -145,9 +169,8 @@ bool KwdrawConfig::getValue(Path path, const wchar_t* key, KdadVariant& value) c
     value.freeValue();
     if (path != kUserInterface || !key)
         return false;
-    SettingsFile& file = store().file;
-    file.load();
-    const SettingsFile::Value* found = file.get(key);
+    store().load();
+    const SettingsFile::Value* found = m_store->file.get(key);
     if (!found)
         return false;
     value = variantOf(*found);
@@ -159,9 +182,8 @@ bool KwdrawConfig::setValue(Path path, const wchar_t* key, const KdadVariant& va
     std::optional<SettingsFile::Value> setting = settingOf(value);
     if (path != kUserInterface || !key || !setting)
         return false;
-    SettingsFile& file = store().file;
-    file.set(key, std::move(*setting));
-    return m_openUpdates > 0 || file.save() == SettingsStatus::Good;
+    store().file.set(key, std::move(*setting));
+    return m_openUpdates > 0 || m_store->save();
 }
 
 KwdrawConfig::Update::Update(KwdrawConfig& config) : m_config(config)
@@ -172,7 +194,7 @@ KwdrawConfig::Update::Update(KwdrawConfig& config) : m_config(config)
 KwdrawConfig::Update::~Update()
 {
     if (--m_config.m_openUpdates == 0)
-        m_config.store().file.save();
+        m_config.store().save();
 }
 
 KwdrawConfig& kdadConfig()

@@ -100,6 +100,9 @@ const wchar_t* settingsStatusText(SettingsStatus status)
         return L"The settings could not be read.";
     case SettingsStatus::Unwritable:
         return L"The settings could not be written.";
+    case SettingsStatus::Later:
+        return L"The settings were written by a later version of the program; they stay as they "
+               L"are.";
     case SettingsStatus::Busy:
         return L"Another program is writing the settings and does not come to an end.";
     }
@@ -138,6 +141,8 @@ SettingsStatus SettingsFile::readFile(Values& values) const
         return error == ENOENT || error == ENOTDIR ? SettingsStatus::Good
                                                    : SettingsStatus::Unreadable;
     const std::wstring text = kdFromUtf8(bytes);
+    if (!isFormKnown(text))
+        return SettingsStatus::Later;
     Values read;
     SettingsLine line;
     for (std::wstring_view rest = text; !rest.empty();) {
@@ -200,7 +205,7 @@ SettingsStatus SettingsFile::save()
 
     Values values;
     const SettingsStatus status = readFile(values);
-    if (status == SettingsStatus::Unreadable)
+    if (status == SettingsStatus::Unreadable || status == SettingsStatus::Later)
         return status;
     if (status == SettingsStatus::Broken) {
         values = m_values;
@@ -208,7 +213,7 @@ SettingsStatus SettingsFile::save()
             return SettingsStatus::Unwritable;
     }
     applyChanges(values);
-    std::wstring text = L"# Settings: one value a line. Remarks are not kept.\n";
+    std::wstring text = settingsHead();
     for (const auto& [name, value] : values)
         appendSettingsLine(text, name, value);
     if (!replaceFile(m_path, kdToUtf8(text)))

@@ -114,6 +114,12 @@ bool isEndOrRemark(std::wstring_view rest)
     return rest.empty() || rest.front() == L'#';
 }
 
+/// Control characters, and halves of pairs, which UTF-8 can't hold.
+bool isUnprintable(wchar_t character)
+{
+    return character < L' ' || character == 0x7F || (character >= 0xD800 && character <= 0xDFFF);
+}
+
 void appendQuoted(std::wstring& out, std::wstring_view text)
 {
     out.push_back(L'"');
@@ -121,7 +127,7 @@ void appendQuoted(std::wstring& out, std::wstring_view text)
         const auto* const escape = std::ranges::find(kEscapes, character, &Escape::character);
         if (escape != std::end(kEscapes)) {
             out += {L'\\', escape->letter};
-        } else if (character < L' ' || character == 0x7F) {
+        } else if (isUnprintable(character)) {
             char digits[8] = {};
             std::to_chars(digits, std::end(digits), static_cast<std::uint32_t>(character), 16);
             out += L"\\u{" + std::wstring(digits, digits + std::char_traits<char>::length(digits)) +
@@ -133,7 +139,24 @@ void appendQuoted(std::wstring& out, std::wstring_view text)
     out.push_back(L'"');
 }
 
+constexpr std::wstring_view kFormIs = L"# Settings, form ";
+constexpr std::wstring_view kForm = L"1";
+
 } // namespace
+
+std::wstring settingsHead()
+{
+    return std::wstring(kFormIs) + std::wstring(kForm) +
+           L": one value a line. Remarks are not kept.\n";
+}
+
+bool isFormKnown(std::wstring_view text)
+{
+    if (!text.starts_with(kFormIs))
+        return true;
+    text.remove_prefix(kFormIs.size());
+    return text.substr(0, text.find_first_not_of(L"0123456789")) == kForm;
+}
 
 SettingsLineKind parseSettingsLine(std::wstring_view line, SettingsLine& value)
 {

@@ -9,6 +9,12 @@
 
 using SettingsLine = std::pair<std::wstring, SettingsFile::Value>;
 
+/// The first line of a file, with its end.
+std::wstring settingsHead();
+
+/// False if the first line tells a form that these functions do not read.
+bool isFormKnown(std::wstring_view text);
+
 enum class SettingsLineKind
 {
     Value,

@@ -66,7 +66,7 @@ TEST_F(SettingsFiles, AnswerNothingForAMissingValueOrOneOfTheOtherKind)
 TEST_F(SettingsFiles, KeepEveryCharacterOfATextAndAName)
 {
     const std::wstring all =
-        std::wstring(L"\"\\ = # \n\r\t\x01\x7F") + L'\0' + L"\u00E4\u4E16\U0001F600 ";
+        std::wstring(L"\"\\ = # \n\r\t\x01\x7F\xD800") + L'\0' + L"\u00E4\u4E16\U0001F600 ";
     SettingsFile settings(path);
     settings.set(all, all);
     ASSERT_EQ(settings.save(), SettingsStatus::Good);
@@ -79,7 +79,7 @@ TEST_F(SettingsFiles, AreTextForPeople)
     settings.set(L"b/Row", 3);
     settings.set(L"a\\Type", L"say \"Line\"");
     settings.save();
-    EXPECT_EQ(contentOf(path), "# Settings: one value a line. Remarks are not kept.\n"
+    EXPECT_EQ(contentOf(path), "# Settings, form 1: one value a line. Remarks are not kept.\n"
                                "\"a\\\\Type\" = \"say \\\"Line\\\"\"\n"
                                "\"b/Row\" = 3\n");
 }
@@ -240,6 +240,28 @@ TEST_F(SettingsFiles, TellWhenTheyCanNotBeReadAndKeepWhatTheyHeld)
     settings.set(L"held", 2);
     EXPECT_EQ(settings.save(), SettingsStatus::Unreadable);
     EXPECT_TRUE(fs::is_directory(path)) << "it stays as it is";
+}
+
+TEST_F(SettingsFiles, OfALaterFormStayAsTheyAre)
+{
+    path = folder / "by_hand";
+    const std::string later = "# Settings, form 2: ...\n\"a\" = [1.5]\n";
+    write(path, later);
+    SettingsFile settings(path);
+    EXPECT_EQ(settings.load(), SettingsStatus::Later);
+    settings.set(L"b", 1);
+    EXPECT_EQ(settings.save(), SettingsStatus::Later);
+    EXPECT_EQ(settings.getInteger(L"b"), 1) << "as long as the program runs";
+    EXPECT_EQ(contentOf(path), later);
+}
+
+TEST_F(SettingsFiles, OfTheirOwnFormOrOfNoneAreRead)
+{
+    path = folder / "by_hand";
+    for (const char* head : {"# Settings, form 1\n", "# Settings: one value a line\n", ""}) {
+        write(path, std::string(head) + "\"a\" = 7\n");
+        EXPECT_EQ(loaded().getInteger(L"a"), 7) << head;
+    }
 }
 
 TEST_F(SettingsFiles, TellWhenTheyCanNotBeWrittenAndKeepTheChanges)
@@ -412,12 +434,12 @@ TEST(SettingsStatusText, IsASentenceForEachStatus)
     std::set<std::wstring> texts;
     for (const SettingsStatus status :
          {SettingsStatus::Good, SettingsStatus::Broken, SettingsStatus::Unreadable,
-          SettingsStatus::Unwritable, SettingsStatus::Busy}) {
+          SettingsStatus::Unwritable, SettingsStatus::Later, SettingsStatus::Busy}) {
         const std::wstring text = settingsStatusText(status);
         EXPECT_EQ(text.back(), L'.');
         texts.insert(text);
     }
-    EXPECT_EQ(texts.size(), 5u);
+    EXPECT_EQ(texts.size(), 6u);
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "environment.h"
 
 #include <platform/config.h>
+#include <platform/message_box.h>
 
 #include <gtest/gtest.h>
 
@@ -8,6 +9,7 @@
 #include <filesystem>
 #include <fstream>
 #include <string>
+#include <vector>
 
 #include <csignal>
 #include <sys/wait.h>
@@ -16,6 +18,24 @@
 namespace {
 
 namespace fs = std::filesystem;
+
+/// Collects messages instead of showing them.
+class Messages : public MessageBoxHandler
+{
+  public:
+    Messages() : m_previous(setMessageBoxHandler(this)) {}
+    ~Messages() override { setMessageBoxHandler(m_previous); }
+    int show(const Message& message) override
+    {
+        shown.emplace_back(message.text);
+        return kMessageBoxOk;
+    }
+
+    std::vector<std::wstring> shown;
+
+  private:
+    MessageBoxHandler* m_previous;
+};
 
 class Config : public testing::Test
 {
@@ -48,6 +68,7 @@ class Config : public testing::Test
 
     std::string m_folder;
     EnvironmentVariable m_home;
+    Messages m_messages;
 };
 
 TEST(Variant, HoldsAnInteger)
@@ -149,6 +170,40 @@ TEST_F(Config, KeepsAValueInMemoryWhereItCannotBeWritten)
     const EnvironmentVariable home("XDG_CONFIG_HOME", file.c_str());
     EXPECT_FALSE(write(L"A", KdadVariant::ofInteger(4)));
     EXPECT_EQ(read(L"A").integerOr(0), 4);
+}
+
+TEST_F(Config, TellsOnceThatItCannotBeWritten)
+{
+    const fs::path file = fs::path(m_folder) / "file";
+    std::ofstream(file) << "no folder";
+    const EnvironmentVariable home("XDG_CONFIG_HOME", file.c_str());
+    write(L"A", KdadVariant::ofInteger(4));
+    read(L"A");
+    write(L"A", KdadVariant::ofInteger(5));
+    ASSERT_EQ(m_messages.shown.size(), 1u);
+    EXPECT_TRUE(m_messages.shown[0].starts_with(L"The settings could not be written.\n/"));
+}
+
+TEST_F(Config, TellsThatItsFileWasPutAsideAndBeginsAnew)
+{
+    const fs::path file = fs::path(m_folder) / "kwqselect" / "interface.settings";
+    fs::create_directories(file.parent_path());
+    std::ofstream(file) << "no settings";
+    EXPECT_EQ(read(L"A").type(), KdadVariant::kEmpty);
+    EXPECT_TRUE(write(L"A", KdadVariant::ofInteger(4)));
+    EXPECT_EQ(read(L"A").integerOr(0), 4);
+    EXPECT_EQ(m_messages.shown.size(), 1u);
+    EXPECT_TRUE(fs::exists(file.string() + ".bad"));
+}
+
+TEST_F(Config, LeavesNoFileWhereThereIsNoHome)
+{
+    const EnvironmentVariable noHome("HOME", nullptr);
+    const EnvironmentVariable noSettings("XDG_CONFIG_HOME", nullptr);
+    EXPECT_FALSE(write(L"A", KdadVariant::ofInteger(4)));
+    EXPECT_EQ(read(L"A").integerOr(0), 4);
+    EXPECT_FALSE(fs::exists("interface.settings"));
+    EXPECT_EQ(m_messages.shown, std::vector<std::wstring>{L"The settings could not be written."});
 }
 
 TEST_F(Config, HoldsTheOldValuesOrTheNewOnesWhenAProgramIsKilled)

@@ -19,6 +19,7 @@ enum class SettingsStatus
     Broken,     ///< the file could not be understood and now lies aside with the ending ".bad"
     Unreadable, ///< the file is there, but could not be read; it stays as it is
     Unwritable, ///< the folder or the file could not be written; the changes are kept in memory
+    Later,      ///< a later version of the program wrote the file; it stays as it is
     Busy,       ///< another process held the lock for too long; the changes are kept in memory
 };
 
@@ -44,6 +45,9 @@ struct KW_EXPORT SettingsNameLess
 ///     "UserInterfaceSettings/Example/Type" = "Line"
 ///     "UserInterfaceSettings/Example/Row" = 3
 ///
+/// The first line may tell the form: `# Settings, form 1: ...`. A file of another form is not
+/// touched.
+///
 /// Inside quotes `\"`, `\\`, `\n`, `\r`, `\t` and `\u{1F}` stand for what can't stand there itself.
 /// Remarks are not kept by `save`. Names ignore case and keep the letters of their first writing.
 ///
@@ -64,8 +68,8 @@ class KW_EXPORT SettingsFile
     const std::filesystem::path& path() const { return m_path; }
 
     /// Takes over what the file holds now; own changes that are not saved yet stay on top. A file
-    /// that is not there counts as empty. On `Broken` the object begins empty; on `Unreadable` and
-    /// `Busy` it keeps what it held.
+    /// that is not there counts as empty. On `Broken` the object begins empty; on `Unreadable`,
+    /// `Later` and `Busy` it keeps what it held.
     SettingsStatus load();
     /// Writes the changes since the last successful save, and takes over what else the file holds.
     /// Without changes it does nothing. `Broken` tells that the changes were written, but the old
