@@ -1,6 +1,6 @@
 #!/usr/bin/python3
 """Writes the seeds of the DXF fuzz target: one small drawing for each kind of entity, tables and objects,
-some of them in the binary form as well. The seeds are kept in the tree; run this after changing it."""
+each in the text form and in the binary form. The seeds are kept in the tree; run this after changing it."""
 
 import struct
 from pathlib import Path
@@ -15,7 +15,6 @@ STORED = [(10, 59, "<d"), (60, 79, "<h"), (90, 99, "<i"), (110, 149, "<d"), (160
           (210, 239, "<d"), (270, 289, "<h"), (290, 299, "<B"), (370, 389, "<h"), (400, 409, "<h"),
           (420, 429, "<i"), (440, 459, "<i"), (460, 469, "<d"), (1010, 1059, "<d"), (1060, 1070, "<h"),
           (1071, 1071, "<i")]
-BINARY = ("circle", "lwpolyline", "hatch", "insert", "dimension", "objects")
 
 
 def as_text(groups):
@@ -223,8 +222,7 @@ def main():
     FOLDER.mkdir(parents=True, exist_ok=True)
     for name, groups in drawings():
         (FOLDER / name).write_bytes(as_text(groups))
-        if name in BINARY:
-            (FOLDER / f"{name}_binary").write_bytes(as_binary(groups))
+        (FOLDER / f"{name}_binary").write_bytes(as_binary(groups))
 
 
 if __name__ == "__main__":
