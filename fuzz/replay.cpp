@@ -3,7 +3,7 @@
 //
 //     <subject>_replay <inputs to make> <dictionary> <file or folder>...
 //
-// The input that ends the program is left in the current folder as "crash-<subject>".
+// The input that ends the program is left in the current folder as "crash-<program>".
 #include <algorithm>
 #include <csignal>
 #include <cstddef>
