@@ -71,12 +71,13 @@ TEST_F(TwoStarts, GoOnWithoutSettingsThatAreBroken)
 {
     writeSettings("no settings\n");
     EXPECT_EQ(start("ok", m_circles), "Multiple|Color||include");
-    EXPECT_EQ(m_messages, "KwQselect: The settings could not be understood; the file now has the "
-                          "ending \".bad\".\n" +
-                              settingsFile().toUtf8() + "\n");
+    EXPECT_EQ(m_messages.count("KwQselect: "), 1);
+    EXPECT_TRUE(m_messages.contains("The settings could not be understood; the file now has the "
+                                    "ending \".bad\".\n" +
+                                    settingsFile().toUtf8() + "\n"));
     EXPECT_EQ(contentOf(settingsFile() + ".bad"), "no settings\n");
     EXPECT_EQ(start("cancel"), "Circle|Radius|> Greater Than|exclude");
-    EXPECT_EQ(m_messages, "");
+    EXPECT_EQ(m_messages.count("KwQselect: "), 0);
 }
 
 TEST_F(TwoStarts, LeaveSettingsOfALaterProgramAlone)
@@ -94,7 +95,7 @@ TEST_F(TwoStarts, TellOnceThatNothingCanBeRemembered)
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     EXPECT_EQ(start("ok", m_circles), "Multiple|Color||include");
     EXPECT_EQ(m_messages.count("The settings could not be written."), 1);
-    EXPECT_EQ(m_messages.count('\n'), 2);
+    EXPECT_EQ(m_messages.count("KwQselect: "), 1);
 }
 
 TEST_F(TwoStarts, MayEndAtTheSameTime)
