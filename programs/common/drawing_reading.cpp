@@ -26,6 +26,9 @@ constexpr double kConversionShare = 0.5;
 
 bool isDwg(const fs::path& file)
 {
+    std::error_code noCode;
+    if (!fs::is_regular_file(file, noCode)) // a pipe must not hold us
+        return false;
     char head[6] = {};
     std::ifstream stream(file, std::ios::binary);
     stream.read(head, sizeof head);
