@@ -123,8 +123,8 @@ class ResBuf : public KdRxObject
     void setPoint3d(const KdGePoint3d& point); ///< `kPoint3d`
     void setColor(const KdCmColor& color);     ///< `kColor`
 
-    /// Records that exist at the moment; a run leaves as many as it found. Builds without assertions
-    /// do not count and answer 0.
+    /// Records that exist at the moment; a run leaves as many as it found. Builds without
+    /// assertions do not count and answer 0.
     static long long recordsInUse() { return s_recordsInUse; }
 
     static KdRxClass* gpDesc;
