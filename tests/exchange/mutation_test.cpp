@@ -19,7 +19,7 @@ class MutatedDrawing : public testing::TestWithParam<fs::path>
     /// Reads what `mutate` makes of the drawing, several times.
     void read(std::string (*mutate)(const std::string&, Random&))
     {
-        constexpr std::uintmax_t kAffordable = 1000 * 1024;
+        constexpr std::uintmax_t kAffordable = 400 * 1024;
         const std::string content = contentOfFile(GetParam());
         Random random(static_cast<unsigned>(content.size()));
         ReadOptions options;
