@@ -36,8 +36,7 @@ bool Module::findAll()
            find("QSelectListTypes", listTypes) && find("QSelectListEntities", listEntities) &&
            find("QSelectListProperties", listProperties) &&
            find("QSelectListOperators", listOperators) && find("QSelectTolerance", tolerance) &&
-           find("QSelectLastRequest", lastRequest) &&
-           find("QSelectHoldDrawing", holdDrawing);
+           find("QSelectLastRequest", lastRequest) && find("QSelectHoldDrawing", holdDrawing);
 }
 
 void Module::unload()
