@@ -1,6 +1,7 @@
 // Texts, attributes and tolerances.
 #include <entities/attribute.h>
 #include <entities/fcf.h>
+#include <entities/special_text.h>
 #include <kwdraw/scene/definition_text.h>
 #include <kwdraw/scene/entity_shapes.h>
 #include <kwdraw/texts/text_shapes.h>
@@ -15,6 +16,16 @@ void drawText(const KdDbText& text, EntityWalk& walk)
 void drawMText(const KdDbMText& text, EntityWalk& walk)
 {
     writeMText(text, walk.writer());
+}
+
+void drawArcText(const KdDbArcAlignedText& text, EntityWalk& walk)
+{
+    writeArcText(text, walk.writer());
+}
+
+void drawRText(const KdDbRText& text, EntityWalk& walk)
+{
+    writeRText(text, walk.writer());
 }
 
 void drawTolerance(const KdDbFcf& tolerance, EntityWalk& walk)
@@ -48,8 +59,12 @@ void drawDefinition(const KdDbAttributeDefinition& definition, EntityWalk& walk)
 }
 
 constexpr ShapeRow kRows[] = {
-    shapeRow<KdDbAttribute, drawAttribute>(), shapeRow<KdDbAttributeDefinition, drawDefinition>(),
-    shapeRow<KdDbFcf, drawTolerance>(),       shapeRow<KdDbMText, drawMText>(),
+    shapeRow<KdDbArcAlignedText, drawArcText>(),
+    shapeRow<KdDbAttribute, drawAttribute>(),
+    shapeRow<KdDbAttributeDefinition, drawDefinition>(),
+    shapeRow<KdDbFcf, drawTolerance>(),
+    shapeRow<KdDbMText, drawMText>(),
+    shapeRow<KdDbRText, drawRText>(),
     shapeRow<KdDbText, drawText>(),
 };
 

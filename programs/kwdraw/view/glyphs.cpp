@@ -18,6 +18,7 @@ QFont fontFor(const SceneFont& font)
     made.setBold(font.bold);
     made.setItalic(font.italic);
     made.setHintingPreference(QFont::PreferNoHinting);
+    made.setKerning(false); // places of letters are sums of their widths
     return made;
 }
 
