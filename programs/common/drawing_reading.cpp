@@ -166,8 +166,9 @@ KdErrorStatus readDrawingOrConvert(const fs::path& file, std::unique_ptr<KdDbDat
         return readDrawing(file, database, report, options);
     const std::optional<fs::path> converter = converterOnPath();
     if (!converter)
-        return refuse(report, std::string("The file is a DWG drawing. Install the converter ") +
-                                  kConverter + " (LibreDWG) on the path, or save it as DXF.");
+        return refuse(report,
+                      "The file is a DWG drawing. Install the converter dwg2dxf on the path, "
+                      "or save it as DXF.");
     const TemporaryFolder folder;
     if (folder.path().empty())
         return refuse(report, "There is no folder to convert the DWG drawing in.");
