@@ -37,11 +37,15 @@ bool isText(const ResourceText& text, std::wstring_view other, Equal equal)
 class LastSearch
 {
   public:
-    /// Whether the outcome for this key is known.
-    bool isFor(std::span<const PropertyRow> rows, std::wstring_view key) const
+    bool isIn(std::span<const PropertyRow> rows) const
     {
-        return m_isKnown && m_rows.data() == rows.data() && m_rows.size() == rows.size() &&
-               m_library == AfxGetResourceHandle() && m_key == key;
+        return m_rows.data() == rows.data() && m_rows.size() == rows.size();
+    }
+    bool isUnused() const { return m_rows.empty(); }
+    /// Whether the outcome for this key is known.
+    bool isFor(std::wstring_view key) const
+    {
+        return m_isKnown && m_library == AfxGetResourceHandle() && m_key == key;
     }
     void search(std::span<const PropertyRow> rows, std::wstring_view key)
     {
@@ -68,6 +72,24 @@ class LastSearch
     const PropertyRow* m_found = nullptr;
     bool m_isKnown = false;
 };
+
+/// The last search in that table. There are fewer tables than places, so one hardly ever takes the
+/// place of another.
+LastSearch& lastSearchIn(std::span<const PropertyRow> rows)
+{
+    constexpr std::size_t kMostTries = 8;
+    constexpr std::uint64_t kGoldenRatio = 0x9E3779B97F4A7C15u;
+    static std::array<LastSearch, 512> searches;
+    const auto first = static_cast<std::size_t>(
+        reinterpret_cast<std::uintptr_t>(rows.data()) * kGoldenRatio >> 32);
+    for (std::size_t i = 0; i < kMostTries; ++i) {
+        LastSearch& search = searches[(first + i) % searches.size()];
+        if (search.isIn(rows) || search.isUnused())
+            return search;
+    }
+    searches[first % searches.size()] = {};
+    return searches[first % searches.size()];
+}
 
 } // namespace
 
@@ -99,10 +121,10 @@ void listRows(std::span<const PropertyRow> rows, const KdDbEntity* entity, KdArr
 
 const PropertyRow* findRow(std::span<const PropertyRow> rows, const KdString& name)
 {
-    static std::array<LastSearch, 128> lastSearches; // a few rounds of tables, by their places
-    const auto number = reinterpret_cast<std::uintptr_t>(rows.data()) / alignof(PropertyRow);
-    LastSearch& last = lastSearches[number % lastSearches.size()];
-    if (!last.isFor(rows, name))
+    if (rows.empty())
+        return nullptr;
+    LastSearch& last = lastSearchIn(rows);
+    if (!last.isFor(name))
         last.search(rows, name);
     return last.found();
 }
