@@ -152,7 +152,7 @@ class Disks(FaultTest):
         status, output, errors = self.run_child(self.drawing, "Line", "--output", target, "--overwrite",
                                                 preexec_fn=self.small_files)
         self.assertEqual((status, output), (CANNOT_WORK, ""))
-        self.assertIn(f"kwselect: {target}: the output can't be written\n", errors)
+        self.assertIn(f"kwselect: {target}: There is no room for the file.\n", errors)
         self.assertEqual((target.read_text(), self.entries()), ("old", ["out.csv", "plan.dxf"]))
 
     def test_that_are_full_are_told_by_each_format(self):
@@ -168,7 +168,7 @@ class Disks(FaultTest):
         closed.mkdir()
         closed.chmod(0o500)
         self.addCleanup(closed.chmod, 0o700)
-        self.refused(f"{closed}/out.csv: Permission denied", self.drawing, "Circle", "--output",
+        self.refused(f"{closed}/out.csv: The folder can't be written to.", self.drawing, "Circle", "--output",
                      closed / "out.csv", preexec_fn=as_plain_user)
         status, _, errors = self.run_child(self.drawing, "Circle", "--write", closed / "part.dxf",
                                            preexec_fn=as_plain_user)
@@ -177,7 +177,7 @@ class Disks(FaultTest):
         self.assertEqual(os.listdir(closed), [])
 
     def test_devices_are_no_files_to_replace(self):
-        self.refused("/dev/null is no regular file", self.drawing, "Circle", "--output", "/dev/null",
+        self.refused("/dev/null: The target is no regular file.", self.drawing, "Circle", "--output", "/dev/null",
                      "--overwrite")
         self.assertTrue(Path("/dev/null").is_char_device())
 
