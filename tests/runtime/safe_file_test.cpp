@@ -1,10 +1,13 @@
 #include <runtime/safe_file.h>
 
+#include <csignal>
 #include <cstdlib>
 #include <fstream>
 #include <iterator>
 
 #include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 #include <gtest/gtest.h>
 
@@ -56,6 +59,29 @@ TEST_F(WrittenFile, IsNotThereWithoutItsEnd)
         EXPECT_FALSE(fs::exists(folder / "a"));
     }
     EXPECT_EQ(entries(), 0);
+}
+
+TEST_F(WrittenFile, LeavesNothingWhenItsWriterIsKilled)
+{
+    const pid_t child = fork();
+    if (child == 0) {
+        SafeFile file;
+        file.open(folder / "a", {}, error);
+        file.write("text");
+        raise(SIGKILL);
+    }
+    int status = 0;
+    ASSERT_EQ(waitpid(child, &status, 0), child);
+    EXPECT_TRUE(WIFSIGNALED(status));
+    EXPECT_EQ(entries(), 0);
+}
+
+TEST_F(WrittenFile, ReplacesAnotherAndLeavesNothingBesideIt)
+{
+    std::ofstream(folder / "a") << "old";
+    EXPECT_EQ(kdWriteFile(folder / "a", "new", {.overwrite = true}, error), eOk);
+    EXPECT_EQ(contentOf(folder / "a"), "new");
+    EXPECT_EQ(entries(), 1);
 }
 
 TEST_F(WrittenFile, DoesNotReplaceOneThatCameMeanwhile)
