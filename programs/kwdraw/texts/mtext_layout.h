@@ -11,11 +11,10 @@ struct MTextSetting
     double lineSpacingFactor = 1.0;
     bool exactSpacing = false; ///< by the text height, whatever the letters' own
     bool hasColumns = false;
-    double columnHeight = 0.0; ///< 0: columns end where the text says so
-    std::vector<double>
-        columnHeights;   ///< of the first columns, where they have heights of their own
-    double gutter = 0.0; ///< between columns
-    int columnCount = 1; ///< at least
+    double columnHeight = 0.0;              ///< 0: columns end where the text says so
+    std::vector<double> columnHeights = {}; ///< of the first columns, if they differ
+    double gutter = 0.0;                    ///< between columns
+    int columnCount = 1;                    ///< at least
     int mostColumns = 0; ///< what has no room in them stays in the last; 0: any number
     bool isDown = false; ///< lines run down, and each stands right of the one before
     ParagraphFormat::Align align = ParagraphFormat::Align::Left; ///< of paragraphs without own
