@@ -27,6 +27,7 @@ class Blocks : public WindowTest
         });
         press(Qt::Key_B, Qt::ControlModifier);
         waitForWork();
+        settle();
     }
     void openFrame()
     {

@@ -140,7 +140,8 @@ TEST_F(Layers, AreFoundFromTheCommandLine)
 {
     openPlan();
     typeCommand("layer");
-    EXPECT_EQ(window->focusWidget(), window->findChild<QLineEdit*>("layerFilter"));
+    EXPECT_TRUE(
+        QTest::qWaitFor([this] { return window->focusWidget()->objectName() == "layerFilter"; }));
 }
 
 } // namespace

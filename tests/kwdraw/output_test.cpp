@@ -104,7 +104,8 @@ TEST_F(Output, CopiesTheLastQuickSelectAsACommand)
     selectCircles();
     ASSERT_TRUE(action(Command::CopyCommand).isEnabled());
     action(Command::CopyCommand).trigger();
-    EXPECT_EQ(clipboard().text().toStdString(), "kwselect " + planPath().toStdString() + " Circle");
+    EXPECT_EQ(clipboard().text().toStdString(),
+              "kwselect " + planPath().toStdString() + " --filter 'Circle: Color'");
 }
 
 TEST_F(Output, CopiesNoCommandForWhatWasPicked)

@@ -160,7 +160,7 @@ void WindowTest::openPlan(const Plan& plan)
     open(planPath());
     ASSERT_TRUE(window->document().isOpen());
     ASSERT_EQ(window->document().drawing().path, planPath());
-    view().setFocus();
+    settle();
 }
 
 KdDbObjectId WindowTest::entity(KdDbHandle handle)
@@ -248,7 +248,15 @@ void WindowTest::quickSelect(const std::function<void(QWidget& dialog)>& act)
     });
     press(Qt::Key_F, Qt::ControlModifier);
     EXPECT_TRUE(cameUp);
+    settle();
+}
+
+void WindowTest::settle()
+{
     QApplication::setActiveWindow(window.get()); // where no window manager does it
+    view().setFocus();
+    view().renderedPicture(); // by then the view knows where everything is
+    QCoreApplication::processEvents();
 }
 
 void WindowTest::chooseType(QWidget& dialog, const char* type)

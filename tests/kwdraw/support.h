@@ -51,6 +51,8 @@ class WindowTest : public testing::Test
     void open(const QString& file, const QString& layout = {});
     /// Waits until nothing is being read or built.
     void waitForWork();
+    /// Gives the view the keys and waits until it can be picked in.
+    void settle();
 
     QString planPath() const { return m_folder.filePath("plan.dxf"); }
     QString pathOf(const char* name) const { return m_folder.filePath(name); }

@@ -20,8 +20,9 @@ double luminance(const QColor& color)
 /// 1 for none, 21 between black and white.
 double contrast(const QColor& first, const QColor& second)
 {
-    const auto [low, high] = std::minmax(luminance(first), luminance(second));
-    return (high + 0.05) / (low + 0.05);
+    const double one = luminance(first);
+    const double other = luminance(second);
+    return (std::max(one, other) + 0.05) / (std::min(one, other) + 0.05);
 }
 
 QColor mixed(const QColor& first, const QColor& second, double part)

@@ -14,6 +14,7 @@
 #include <QMenu>
 #include <QMessageBox>
 #include <QTextBrowser>
+#include <QTimer>
 #include <QVBoxLayout>
 
 #include <common/nearest_name.h>
@@ -62,8 +63,11 @@ void MainWindow::connectCommands()
     on.on(Command::NextSelected, [this] { goTo(+1); });
     on.on(Command::PreviousSelected, [this] { goTo(-1); });
     on.on(Command::Layers, [this] {
-        findChild<QDockWidget*>("layersDock")->show();
-        m_layers->focusFilter();
+        auto* dock = findChild<QDockWidget*>("layersDock");
+        dock->show();
+        dock->raise(); // it may stand behind another one
+        // Later, since the line that a command is typed in keeps the keys until it has ended.
+        QTimer::singleShot(0, m_layers, &LayerPanel::focusFilter);
     });
     on.on(Command::Help, [this] { showHelp(HelpPage::Program, this); });
     on.on(Command::QuickSelectHelp, [this] { showHelp(HelpPage::QuickSelect, this); });
