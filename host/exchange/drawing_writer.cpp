@@ -1,7 +1,7 @@
 #include <exchange/drawing_writer.h>
 
 #include <new>
-#include <unordered_set>
+#include <utility>
 
 #include <entities/viewport.h>
 
@@ -135,37 +135,51 @@ class SelectionWriter
     Filler m_filler;
 };
 
-KdErrorStatus write(const KdDbDatabase& database, std::span<const KdDbObjectId> entities,
-                    const std::filesystem::path& target, KdString& error,
-                    const WriteOptions& options)
+KdErrorStatus write(const PreparedSelection& selection, const std::filesystem::path& target,
+                    KdString& error, const WriteOptions& options)
 {
-    const auto* source = dynamic_cast<const MemberSource*>(database.source());
-    std::unordered_set<std::uint64_t> places;
-    if (!source || placesOf(database, entities, places) != eOk) {
-        error = L"Only entities that were read from a file can be written.";
-        return eInvalidInput;
-    }
-    addSheetViewports(database, places);
+    const DrawingSource& drawing = static_cast<const MemberSource*>(selection.source)->drawing();
     SafeFile file;
-    const DrawingSource& drawing = source->drawing();
-    KdErrorStatus status = file.open(
+    const KdErrorStatus status = file.open(
         target, {.overwrite = options.overwrite, .untouchable = drawing.bytes.file()}, error);
     if (status != eOk)
         return status;
-    SelectionWriter(drawing, places).write(file);
+    SelectionWriter(drawing, selection.places).write(file);
     return file.finish(error);
 }
 
 } // namespace
 
-KdErrorStatus writeSelection(const KdDbDatabase& database, std::span<const KdDbObjectId> entities,
+KdErrorStatus prepareSelection(const KdDbDatabase& database, std::span<const KdDbObjectId> entities,
+                               PreparedSelection& selection, KdString& error)
+{
+    PreparedSelection prepared{dynamic_cast<const MemberSource*>(database.source()), {}};
+    if (!prepared.source || placesOf(database, entities, prepared.places) != eOk) {
+        error = L"Only entities that were read from a file can be written.";
+        return eInvalidInput;
+    }
+    addSheetViewports(database, prepared.places);
+    selection = std::move(prepared);
+    return eOk;
+}
+
+KdErrorStatus writeSelection(const PreparedSelection& selection,
                              const std::filesystem::path& target, KdString& error,
                              const WriteOptions& options)
 {
     try {
-        return write(database, entities, target, error, options);
+        return write(selection, target, error, options);
     } catch (const std::bad_alloc&) {
         error = L"The drawing is too large for the memory.";
         return eFileAccessError;
     }
+}
+
+KdErrorStatus writeSelection(const KdDbDatabase& database, std::span<const KdDbObjectId> entities,
+                             const std::filesystem::path& target, KdString& error,
+                             const WriteOptions& options)
+{
+    PreparedSelection selection;
+    const KdErrorStatus status = prepareSelection(database, entities, selection, error);
+    return status == eOk ? writeSelection(selection, target, error, options) : status;
 }

@@ -1,8 +1,10 @@
 /// Writes parts of a drawing out again.
 #pragma once
 
+#include <cstdint>
 #include <filesystem>
 #include <span>
+#include <unordered_set>
 
 #include <database/database.h>
 
@@ -30,5 +32,23 @@ struct WriteOptions
 ///                  that can't be written
 KW_EXPORT KdErrorStatus writeSelection(const KdDbDatabase& database,
                                        std::span<const KdDbObjectId> entities,
+                                       const std::filesystem::path& target, KdString& error,
+                                       const WriteOptions& options = {});
+
+/// A selection whose entities have been looked up. What is left to do needs the source alone.
+struct PreparedSelection
+{
+    const KdDbMemberSource* source = nullptr; ///< of the drawing, which owns it
+    std::unordered_set<std::uint64_t> places; ///< of the records in it
+};
+
+/// The first part of `writeSelection`, quickly done. `eInvalidInput` as there, `selection`
+/// untouched.
+KW_EXPORT KdErrorStatus prepareSelection(const KdDbDatabase& database,
+                                         std::span<const KdDbObjectId> entities,
+                                         PreparedSelection& selection, KdString& error);
+/// The second part, which may run in a thread of its own while the drawing is used; the drawing
+/// must not go meanwhile.
+KW_EXPORT KdErrorStatus writeSelection(const PreparedSelection& selection,
                                        const std::filesystem::path& target, KdString& error,
                                        const WriteOptions& options = {});

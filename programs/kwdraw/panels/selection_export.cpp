@@ -50,6 +50,7 @@ SelectionExport::SelectionExport(const Module& module, const KdDbDatabase& datab
 {
     m_slice.setInterval(0);
     connect(&m_slice, &QTimer::timeout, this, &SelectionExport::writeOn);
+    connect(&m_task, &BackgroundTask::finished, this, [this] { end(m_problem); });
 }
 
 SelectionExport::~SelectionExport() = default;
@@ -59,13 +60,8 @@ void SelectionExport::toFile(const std::vector<KdDbObjectId>& entities,
 {
     cancel();
     std::string problem;
-    if (options.format == ExportFormat::Drawing) {
-        KdString error;
-        if (writeSelection(m_database, entities, file, error, {options.overwrite}) != eOk)
-            problem = file.string() + ": " + kdToUtf8(error);
-        end(problem);
-        return;
-    }
+    if (options.format == ExportFormat::Drawing)
+        return writeDrawing(entities, file, options.overwrite);
     auto rows = std::make_unique<SelectionRows>(m_module, entities, options, m_drawing.string());
     const SafeFileRules rules{.overwrite = options.overwrite,
                               .untouchable = kdFileIdentity(m_drawing)};
@@ -73,6 +69,21 @@ void SelectionExport::toFile(const std::vector<KdDbObjectId>& entities,
         start(std::move(rows));
     else
         end(problem);
+}
+
+void SelectionExport::writeDrawing(const std::vector<KdDbObjectId>& entities,
+                                   const std::filesystem::path& file, bool overwrite)
+{
+    KdString error;
+    PreparedSelection selection;
+    if (prepareSelection(m_database, entities, selection, error) != eOk)
+        return end(file.string() + ": " + kdToUtf8(error));
+    m_problem.clear();
+    m_task.start([this, file, overwrite, selection = std::move(selection)](const auto&) {
+        KdString failure;
+        if (writeSelection(selection, file, failure, {overwrite}) != eOk)
+            m_problem = file.string() + ": " + kdToUtf8(failure);
+    });
 }
 
 void SelectionExport::toClipboard(const std::vector<KdDbObjectId>& entities,

@@ -11,6 +11,7 @@
 #include <QTimer>
 
 #include <common/module.h>
+#include <kwdraw/document/background_task.h>
 #include <kwdraw/panels/property_merge.h>
 
 class KdDbDatabase;
@@ -35,9 +36,9 @@ struct ExportOptions
 /// "Handle", "Type" and "Layer", then the properties that are shown in common.
 std::vector<std::string> exportColumns(const std::vector<MergedProperty>& shown);
 
-/// Writes entities out, a slice at a time, so that the window stays awake; a drawing in one go.
-/// The entities must stay in the working drawing until `finished`, or until the object goes, which
-/// gives up and leaves no file.
+/// Writes entities out so that the window stays awake: rows a slice at a time, a drawing in a
+/// thread of its own. The entities must stay in the working drawing until `finished`, or until the
+/// object goes, which gives up rows and leaves no file, and waits for a drawing.
 class SelectionExport : public QObject
 {
     Q_OBJECT
@@ -54,7 +55,8 @@ class SelectionExport : public QObject
                 const ExportOptions& options);
     /// Begins to fill the clipboard; all formats but a drawing.
     void toClipboard(const std::vector<KdDbObjectId>& entities, const ExportOptions& options);
-    bool isRunning() const { return m_rows != nullptr; }
+    bool isRunning() const { return m_rows || m_task.isRunning(); }
+    /// Gives up rows; a drawing that has been begun is written to its end.
     void cancel();
 
   signals:
@@ -63,6 +65,8 @@ class SelectionExport : public QObject
     void finished(const QString& problem);
 
   private:
+    void writeDrawing(const std::vector<KdDbObjectId>& entities, const std::filesystem::path& file,
+                      bool overwrite);
     void start(std::unique_ptr<SelectionRows> rows);
     void writeOn();
     void end(const std::string& problem);
@@ -72,4 +76,6 @@ class SelectionExport : public QObject
     std::filesystem::path m_drawing;
     std::unique_ptr<SelectionRows> m_rows;
     QTimer m_slice;
+    std::string m_problem; ///< of the drawing that was written last
+    BackgroundTask m_task;
 };
