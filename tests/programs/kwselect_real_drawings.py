@@ -54,23 +54,26 @@ class Drawing:
         self.once = stated_once(path) if self.document else None
         self.tolerance = 10.0 ** -self.document.header.get(TOLERANCE_DIGITS, 4) if self.document else 0
 
-    def entities(self, kind):
+    def entities(self, kind, layout=None):
         frozen = {layer.dxf.name.lower() for layer in self.document.layers if layer.is_frozen()}
-        return [e for e in self.document.modelspace().query(kind)
+        return [e for e in (layout or self.document.modelspace()).query(kind)
                 if e.dxf.layer.lower() not in frozen and
                 (self.once is None or e.dxf.handle.upper() in self.once)]
 
-    def select(self, expression):
-        done = subprocess.run([self.program, self.path, expression], capture_output=True, check=False)
+    def select(self, expression, *options):
+        done = subprocess.run([self.program, self.path, expression, *options],
+                              capture_output=True, check=False)
         if done.returncode not in (0, 1, 3):
             raise RuntimeError(done.stderr.decode())
         return set(done.stdout.decode().split())
 
     def disagree(self, kind, expression, passes):
         """Handles on which the two disagree; those near the border count for neither."""
-        entities = self.entities(kind)
+        return self.differences(self.entities(kind), passes, self.select(expression))
+
+    @staticmethod
+    def differences(entities, passes, found):
         verdicts = {e.dxf.handle.upper().lstrip("0"): passes(e) for e in entities}
-        found = self.select(expression)
         return [h for h, verdict in verdicts.items() if verdict is not None and verdict != (h in found)]
 
     def above(self, kind, expression, measure, bound):
@@ -109,12 +112,52 @@ def checks(drawing):
             lambda e: any(abs(p[0] - x) < near * 0.9 for p in e.get_points("xy")) or
             (None if any(abs(p[0] - x) < near * 1.1 for p in e.get_points("xy")) else False))
 
+    yield from block_checks(drawing)
+
     texts = [e for e in drawing.entities("TEXT") if e.dxf.text.isascii() and e.dxf.text.isalnum()]
     if texts:
         word = middle(e.dxf.text for e in texts)
         expression = f'Text: Contents * "*{word}*"'
         yield expression, drawing.disagree(
             "TEXT", expression, lambda e: word in e.dxf.text if e.dxf.text.isascii() else None)
+
+
+def is_plain(text):
+    return bool(text) and text.isascii() and '"' not in text
+
+
+def block_checks(drawing):
+    """References by the name of their block and by an attribute, and what a block holds."""
+    references = [e for e in drawing.entities("INSERT") if e.mcount == 1]
+    name = middle(e.dxf.name for e in references if is_plain(e.dxf.name) and e.dxf.name[0] != "*")
+    if name:
+        expression = f'Block Reference: Name = "{name}"'
+        # An anonymous copy goes by the name of its original, which the other reader does not tell.
+        yield expression, drawing.differences(
+            references, lambda e: None if e.dxf.name[0] == "*" else e.dxf.name == name,
+            drawing.select(expression))
+
+    attribute = next((a for e in references for a in e.attribs
+                      if is_plain(a.dxf.tag) and is_plain(a.dxf.text) and a.dxf.text.isalnum()), None)
+    if attribute is not None:
+        tag, text = attribute.dxf.tag, attribute.dxf.text
+        expression = f'Block Reference: "Attributes:{tag}" = "{text}"'
+        yield expression, drawing.differences(
+            references, lambda e: any(a.dxf.tag == tag and a.dxf.text == text for a in e.attribs),
+            drawing.select(expression))
+
+    blocks = [b for b in drawing.document.blocks
+              # Names with an underscore may be arrowheads that the other reader has added.
+              if b.name[0] not in "*_" and is_plain(b.name) and drawing.entities("LINE", b)]
+    if blocks:
+        block = max(blocks, key=lambda b: len(b.query("LINE")))
+        lines = drawing.entities("LINE", block)
+        bound = middle(map(length, lines))
+        expression = f"Line: Length > {bound!r}"
+        near = 2 * drawing.tolerance + 1e-9 * bound
+        yield f"{block.name}: {expression}", drawing.differences(
+            lines, lambda e: None if abs(length(e) - bound) <= near else length(e) > bound,
+            drawing.select(expression, "--space", f"block:{block.name}"))
 
 
 def main(program, paths):
