@@ -23,8 +23,8 @@ class WindowScenes : public SceneTest
     }
     /// A window of 40 by 20 about (50, 30) that shows the model at half size, (100, 200) in its
     /// middle.
-    template <class Change>
-    KdDbViewport* addViewport(Change change)
+    template <class Adjust>
+    KdDbViewport* addViewport(Adjust adjust)
     {
         return addTo<KdDbViewport>(sheetId(), [&](ViewportMembers& members) {
             members.center = {50, 30, 0};
@@ -33,7 +33,7 @@ class WindowScenes : public SceneTest
             members.viewHeight = 40;
             members.viewCenter = {100, 200};
             members.number = 2;
-            change(members);
+            adjust(members);
         });
     }
     static void nothing(ViewportMembers&) {}
