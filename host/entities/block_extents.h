@@ -3,7 +3,7 @@
 
 #include <database/entity.h>
 
-/// The box around all that a block draws, in its own frame. References in it count by the boxes of
-/// what they show, and to a depth that is enough for arrowheads. `eNotApplicable` if there is no
-/// such block or nothing with a size in it, `extents` untouched.
+/// The box around all that a block draws, in its own frame. References and dimensions in it count
+/// by the boxes of what they show. `eNotApplicable` if there is no such block or nothing with a
+/// size in it, `extents` untouched.
 KdErrorStatus extentsOfBlock(KdDbObjectId block, KdGeExtents3d& extents);

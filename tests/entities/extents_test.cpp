@@ -103,6 +103,17 @@ TEST_F(Extents, OfADimensionWhoseBlockHoldsItselfEnd)
     EXPECT_EQ(box.maxPoint, (KdGePoint3d{1, 0, 0}));
 }
 
+TEST_F(Extents, OfADimensionInItsOwnBlockEnd)
+{
+    const KdDbObjectId block = addBlock(L"*D4");
+    addLine(block, {0, 0, 0}, {1, 0, 0});
+    const KdDbAlignedDimension* dimension = nullptr;
+    for (int i = 0; i < 20; ++i) // each of which would look at all the others
+        dimension = add<KdDbAlignedDimension>(block, [&](auto& members) { members.block = block; });
+    ASSERT_EQ(dimension->getGeomExtents(box), eOk);
+    EXPECT_EQ(box.maxPoint, (KdGePoint3d{1, 0, 0}));
+}
+
 TEST_F(Extents, OfAMultilineHoldAllItsLines)
 {
     const KdDbObjectId style = addStyle({0.5, -0.5});
