@@ -87,7 +87,8 @@ endfunction()
 
 # project_test(<folder> SOURCES <file>... LIBRARIES <object library>... [DEPS <target>...])
 # One test program for a folder, made of the objects of the named libraries, so that it reaches what
-# a shared library keeps to itself. Each of its tests is known to CTest by its own name.
+# a shared library keeps to itself. Each of its tests is known to CTest by its own name; under the
+# sanitizers the program is one test, since starting it takes longer than most of its tests.
 function(project_test folder)
   cmake_parse_arguments(ARG "" "" "SOURCES;LIBRARIES;DEPS" ${ARGN})
   set(target ${folder}_test)
@@ -99,6 +100,12 @@ function(project_test folder)
   target_precompile_headers(${target} PRIVATE ${PROJECT_SOURCE_DIR}/cmake/precompiled_test.h)
   # Tests themselves need no speed, and from -O2 on GCC 12 warns of string code that is right.
   target_compile_options(${target} PRIVATE $<$<CONFIG:Release>:-O1>)
-  gtest_discover_tests(${target} DISCOVERY_TIMEOUT 60
-    PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen" TIMEOUT 300)
+  if(KW_SANITIZE)
+    add_test(NAME ${target} COMMAND ${target} --gtest_brief=1)
+    set_tests_properties(${target} PROPERTIES
+      ENVIRONMENT "QT_QPA_PLATFORM=offscreen" TIMEOUT 900)
+  else()
+    gtest_discover_tests(${target} DISCOVERY_TIMEOUT 60
+      PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen" TIMEOUT 300)
+  endif()
 endfunction()

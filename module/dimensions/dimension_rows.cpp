@@ -111,9 +111,10 @@ KdString toleranceAlignmentName(KdDbObjectId style)
     const OpenForRead<KdDbObject> opened(style);
     if (!opened)
         return {};
-    const bool isStyle = opened->isKindOf(KdDbDimStyleTableRecord::desc());
-    const auto* record = static_cast<const KdDbDimStyleTableRecord*>(opened.get());
-    return nameIn(kToleranceAlignments, toleranceAlignmentOf(isStyle ? record : nullptr));
+    const auto* record = opened->isKindOf(KdDbDimStyleTableRecord::desc())
+                             ? static_cast<const KdDbDimStyleTableRecord*>(opened.get())
+                             : nullptr;
+    return nameIn(kToleranceAlignments, toleranceAlignmentOf(record));
 }
 
 bool toleranceAlignment(const PropertyRequest& request, ValueKind kind)
