@@ -59,8 +59,7 @@ class PanelsTest : public testing::Test
     KdutPrintSink m_sink;
 };
 
-/// Runs the event loop until the condition holds, for two minutes at most. Answers the longest
-/// time in milliseconds of work between two turns of the loop.
-double waitFor(const std::function<bool()>& condition);
+/// Runs the event loop until the condition holds, for two minutes at most.
+void waitFor(const std::function<bool()>& condition);
 
 } // namespace panels_test
