@@ -6,9 +6,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <common/entity_set.h>
 #include <database/database.h>
 #include <entities/line.h>
-#include <kwdraw/document/pickfirst.h>
 
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -42,8 +42,8 @@ class SelectionHistory : public testing::Test
 TEST_F(SelectionHistory, IsTheHostsSelection)
 {
     selection.set({b, a});
-    EXPECT_THAT(pickfirstIds(), ElementsAre(b, a));
-    setPickfirst({c});
+    EXPECT_THAT(pickfirstEntities(), ElementsAre(b, a));
+    setPickfirstEntities({c});
     EXPECT_THAT(selection.ids(), ElementsAre(c));
     EXPECT_TRUE(selection.contains(c));
     EXPECT_FALSE(selection.contains(a));
@@ -93,7 +93,7 @@ TEST_F(SelectionHistory, TakesStepsBackAndForth)
     selection.redo();
     selection.redo();
     EXPECT_THAT(selection.ids(), ElementsAre(a, b));
-    EXPECT_THAT(pickfirstIds(), ElementsAre(a, b));
+    EXPECT_THAT(pickfirstEntities(), ElementsAre(a, b));
 }
 
 TEST_F(SelectionHistory, ForgetsTheWayForthAtANewStep)
@@ -109,9 +109,9 @@ TEST_F(SelectionHistory, MakesOneStepOfWhatACommandDoes)
     selection.set({a});
     {
         const Selection::OneStep step(selection);
-        setPickfirst({});
-        setPickfirst({b});
-        setPickfirst({b, c});
+        setPickfirstEntities({});
+        setPickfirstEntities({b});
+        setPickfirstEntities({b, c});
     }
     selection.undo();
     EXPECT_THAT(selection.ids(), ElementsAre(a));
@@ -121,8 +121,8 @@ TEST_F(SelectionHistory, MakesNoStepOfACommandThatChangesNothing)
 {
     {
         const Selection::OneStep step(selection);
-        setPickfirst({a});
-        setPickfirst({});
+        setPickfirstEntities({a});
+        setPickfirstEntities({});
     }
     EXPECT_FALSE(selection.canUndo());
 }
@@ -144,7 +144,7 @@ TEST_F(SelectionHistory, EndsWithItsDrawing)
     selection.undo();
     selection.reset();
     EXPECT_THAT(selection.ids(), IsEmpty());
-    EXPECT_THAT(pickfirstIds(), IsEmpty());
+    EXPECT_THAT(pickfirstEntities(), IsEmpty());
     EXPECT_FALSE(selection.canUndo());
     EXPECT_FALSE(selection.canRedo());
 }

@@ -5,7 +5,6 @@
 #include <fstream>
 #include <sstream>
 
-
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QFileInfo>

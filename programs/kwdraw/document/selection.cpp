@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <utility>
 
-#include <kwdraw/document/pickfirst.h>
+#include <common/entity_set.h>
 
 Selection::Selection(QObject* parent) : QObject(parent)
 {
@@ -19,7 +19,7 @@ Selection::~Selection()
 
 void Selection::set(const Ids& ids)
 {
-    setPickfirst(ids);
+    setPickfirstEntities(ids);
 }
 
 void Selection::add(const Ids& ids)
@@ -49,7 +49,7 @@ void Selection::follow(int flags)
 {
     if (flags & kKdedIsCommandOutcome)
         emit handedOver();
-    Ids now = pickfirstIds();
+    Ids now = pickfirstEntities();
     if (now == m_ids)
         return;
     if (m_openSteps == 0)
@@ -87,7 +87,7 @@ void Selection::step(std::deque<Ids>& from, std::deque<Ids>& to)
     m_idsInUndo = 0;
     for (const Ids& ids : m_undo)
         m_idsInUndo += ids.size();
-    setPickfirst(target);
+    setPickfirstEntities(target);
     --m_openSteps;
     emit changed(); // what can be undone has changed, even if a command had the last word
 }
@@ -108,7 +108,7 @@ void Selection::reset()
     m_redo.clear();
     m_idsInUndo = 0;
     ++m_openSteps;
-    setPickfirst({});
+    setPickfirstEntities({});
     --m_openSteps;
     take({});
 }
