@@ -25,10 +25,10 @@ import re
 import subprocess
 import sys
 
-import ezdxf
-from ezdxf import recover
 from ezdxf.entities.dimstyle import DimStyle
 from ezdxf.math import intersection_line_line_2d
+
+from drawing_comparison import load
 
 NAMES = DimStyle.CODE_TO_DXF_ATTRIB
 
@@ -52,15 +52,6 @@ CLASSES = {
     3: "AcDbDiametricDimension", 4: "AcDbRadialDimension", 5: "AcDb3PointAngularDimension",
     6: "AcDbOrdinateDimension", 8: "AcDbArcDimension",
 }  # fmt: skip
-
-
-def load(path):
-    for read in (ezdxf.readfile, lambda name: recover.readfile(name)[0]):
-        try:
-            return read(path)
-        except Exception:
-            continue
-    return None
 
 
 def unescaped(text):

@@ -12,10 +12,7 @@ ezdxf reads a smoothed polyline as its vertices, so which of them are drawn is d
 """
 
 import math
-import os
 import sys
-
-sys.path.insert(0, os.path.join(os.path.dirname(__file__), "..", "support"))
 
 from ezdxf.math import OCS, Vec2, Vec3, bulge_to_arc
 

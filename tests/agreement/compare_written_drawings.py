@@ -112,7 +112,7 @@ def faults_of(path):
 
 def main():
     parser = argparse.ArgumentParser()
-    parser.add_argument("--program", required=True)
+    parser.add_argument("program")
     parser.add_argument("drawings", nargs="+", type=Path)
     options = parser.parse_args()
     with tempfile.TemporaryDirectory() as folder:

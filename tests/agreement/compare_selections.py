@@ -10,8 +10,7 @@ import subprocess
 import sys
 from pathlib import Path
 
-sys.path.insert(0, str(Path(__file__).resolve().parents[1] / "support"))
-from drawing_comparison import load, stated_once  # noqa: E402
+from drawing_comparison import load, stated_once
 
 TOLERANCE_DIGITS = "$LUPREC"
 

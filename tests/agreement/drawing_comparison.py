@@ -22,14 +22,20 @@ BINARY_MARK = bytes.fromhex("4175746f434144")
 TURN = 2 * math.pi
 
 
+def load_or_repair(path):
+    """The document, and whether it had to be repaired; None if ezdxf can't read it, nor repair it."""
+    try:
+        return ezdxf.readfile(path), False
+    except Exception:
+        pass
+    try:
+        return recover.readfile(path)[0], True
+    except Exception:
+        return None, True
+
+
 def load(path):
-    """The document; None if ezdxf can't read it, nor repair it."""
-    for read in (ezdxf.readfile, lambda name: recover.readfile(name)[0]):
-        try:
-            return read(path)
-        except Exception:
-            pass
-    return None
+    return load_or_repair(path)[0]
 
 
 def stated_once(path):

@@ -24,21 +24,12 @@ import re
 import subprocess
 import sys
 
-import ezdxf
-from ezdxf import recover
 from ezdxf.math import OCS, Vec3
+
+from drawing_comparison import load
 
 KINDS = {"TEXT", "MTEXT", "ATTRIB", "ATTDEF", "SHAPE", "TOLERANCE", "LEADER", "MULTILEADER", "MLEADER"}
 TURN = 2 * math.pi
-
-
-def load(path):
-    for read in (ezdxf.readfile, lambda name: recover.readfile(name)[0]):
-        try:
-            return read(path)
-        except Exception:
-            pass
-    return None
 
 
 def without_escapes(text):

@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Reads sample drawings with our reader and with ezdxf and compares the entities of the model.
 
-usage: compare_with_ezdxf.py <print_model_space> <drawing>...
+usage: compare_model_space.py <print_model_space> <drawing>...
 
 Compared for each entity, in order: kind, layer, colour, linetype, lineweight, linetype scale, and
 the handle where the file states one. Differences that are allowed, and why:
@@ -21,25 +21,13 @@ import re
 import subprocess
 import sys
 
-import ezdxf
-from ezdxf import recover
 from ezdxf.entities import DXFTagStorage
 from ezdxf.lldxf.const import DXFKeyError
 
+from drawing_comparison import load_or_repair
+
 BY_LAYER = "bylayer"
 KINDS_WITH_OTHER_NAMES = {"MLEADER": "MULTILEADER", "3DLINE": "LINE"}
-
-
-def load(path):
-    """The document, and whether it had to be repaired; None if ezdxf can't read it."""
-    try:
-        return ezdxf.readfile(path), False
-    except Exception:
-        pass
-    try:
-        return recover.readfile(path)[0], True
-    except Exception:
-        return None, True
 
 
 def unescaped(text):
@@ -125,7 +113,7 @@ def same(expected, actual, handles, encoding):
 
 
 def compare(program, path):
-    document, repaired = load(path)
+    document, repaired = load_or_repair(path)
     if document is None:
         print("not readable by ezdxf, left out:", path)
         return True

@@ -7,8 +7,8 @@ import sys
 from collections import defaultdict
 from pathlib import Path
 
-import ezdxf
-from ezdxf import recover
+from drawing_comparison import load
+
 
 PROGRAM = sys.argv[1]
 failures = []
@@ -27,13 +27,6 @@ def expect(drawing, expected, *arguments):
     found = select(drawing, *arguments)
     if found != sorted(expected):
         failures.append(f"{drawing.name} {arguments}: {found}, expected {sorted(expected)}")
-
-
-def read(drawing):
-    try:
-        return ezdxf.readfile(drawing)
-    except Exception:  # the reader refuses some files that it can mend
-        return recover.readfile(drawing)[0]
 
 
 def original(document, insert):
@@ -82,7 +75,7 @@ def states(document):
 
 
 def compare(drawing):
-    document = read(drawing)
+    document = load(drawing)
     inserts = [i for i in document.modelspace().query("INSERT") if is_visible(document, i)]
     names, attributes, columns = defaultdict(list), defaultdict(list), defaultdict(list)
     visibility = defaultdict(list)

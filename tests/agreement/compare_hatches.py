@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Reads sample drawings with our reader and with ezdxf and compares their hatches.
 
-usage: compare_with_ezdxf.py <print_hatches> <drawing>...
+usage: compare_hatches.py <print_hatches> <drawing>...
 
 The area is found in another way than ours: boundaries are broken into short straight pieces, and
 level lines measure how far they run through the filled parts, where a point is filled by the number
@@ -12,23 +12,14 @@ import math
 import subprocess
 import sys
 
-import ezdxf
-from ezdxf import recover
 from ezdxf.math import BSpline, bulge_to_arc
+
+from drawing_comparison import load
 
 LEVELS = 700
 PIECES = 400
 AREA_TOLERANCE = 0.01  # of the area, for so many levels and pieces
 TEXT_BOX = 8
-
-
-def load(path):
-    for reader in (ezdxf.readfile, lambda name: recover.readfile(name)[0]):
-        try:
-            return reader(path)
-        except Exception:
-            continue
-    return None
 
 
 def ellipse_points(center, major, ratio, start, end):
