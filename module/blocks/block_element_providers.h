@@ -3,9 +3,9 @@
 #pragma once
 
 #include <entities/all.h>
+#include <plugin/entity_pe.h>
 
 #include <blocks/block_element_rows.h>
-#include <providers/entity_pe.h>
 #include <providers/table_provider.h>
 
 #define KW_ELEMENT_PROVIDER(Provider, Base, Host)                                                  \

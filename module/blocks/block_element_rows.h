@@ -2,8 +2,8 @@
 #pragma once
 
 #include <entities/block_elements.h>
+#include <plugin/entity_pe.h>
 
-#include <providers/entity_pe.h>
 #include <providers/row_readers.h>
 
 namespace block_elements {

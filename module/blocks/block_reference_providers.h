@@ -5,8 +5,8 @@
 #include <string_view>
 
 #include <entities/all.h>
+#include <plugin/entity_pe.h>
 
-#include <providers/entity_pe.h>
 #include <providers/table_provider.h>
 
 /// One class stands for four kinds of thing: plain references, associative arrays, centre marks and

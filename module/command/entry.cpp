@@ -7,7 +7,7 @@
 #include <command/registration.h>
 #include <command/request.h>
 #include <command/resource_scope.h>
-#include <providers/entity_pe.h>
+#include <plugin/entity_pe.h>
 #include <values/compare.h>
 
 void QSelectInit()

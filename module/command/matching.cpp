@@ -7,8 +7,8 @@
 #include <database/tables.h>
 #include <entities/block_reference.h>
 #include <entities/viewport.h>
+#include <plugin/entity_pe.h>
 
-#include <providers/entity_pe.h>
 #include <values/class_map.h>
 #include <values/compare.h>
 #include <values/display_name.h>

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include <command/gathering.h>
-#include <providers/entity_pe.h>
+#include <plugin/entity_pe.h>
 #include <values/class_map.h>
 #include <values/display_name.h>
 #include <values/operators.h>

@@ -5,9 +5,9 @@
 
 #include <database/database.h>
 #include <editor/current_space.h>
+#include <plugin/entity_pe.h>
 
 #include <dialog/control_names.h>
-#include <providers/entity_pe.h>
 #include <providers/property_row.h>
 #include <values/value_chain.h>
 

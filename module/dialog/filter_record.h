@@ -1,10 +1,10 @@
 /// What the user asked for: the record that passes from the dialog to the run.
 #pragma once
 
+#include <plugin/res_buf.h>
 #include <runtime/std_str.h>
 
 #include <values/property_parameters.h>
-#include <values/res_buf.h>
 
 /// Starts as: the entire drawing, Include, no Append, all object types.
 struct DialogParameters

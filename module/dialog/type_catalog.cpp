@@ -7,9 +7,9 @@
 #include <database/database.h>
 #include <database/layer_filters.h>
 #include <entities/section.h>
+#include <plugin/entity_pe.h>
 
 #include <dialog/value_texts.h>
-#include <providers/entity_pe.h>
 #include <providers/property_row.h>
 #include <values/display_name.h>
 #include <values/globals.h>

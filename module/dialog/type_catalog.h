@@ -8,11 +8,11 @@
 
 #include <database/color.h>
 #include <database/entity.h>
+#include <plugin/res_buf.h>
 #include <runtime/kd_array.h>
 #include <runtime/std_str.h>
 
 #include <values/operators.h>
-#include <values/res_buf.h>
 
 class KdDbDatabase;
 class KdDbEntityPE;

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include <values/res_buf.h>
+#include <plugin/res_buf.h>
 
 bool isPointKind(int kind);
 

@@ -2,8 +2,7 @@
 #pragma once
 
 #include <entities/dimension.h>
-
-#include <providers/entity_pe.h>
+#include <plugin/entity_pe.h>
 
 class KdDbAssocVariable;
 

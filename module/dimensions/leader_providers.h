@@ -2,8 +2,8 @@
 #pragma once
 
 #include <entities/all.h>
+#include <plugin/entity_pe.h>
 
-#include <providers/entity_pe.h>
 #include <providers/table_provider.h>
 
 class KdDbLeader_Extension

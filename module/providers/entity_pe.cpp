@@ -1,4 +1,4 @@
-#include <providers/entity_pe.h>
+#include <plugin/entity_pe.h>
 
 #include <providers/general_rows.h>
 #include <providers/property_row.h>

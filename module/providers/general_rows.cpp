@@ -7,8 +7,8 @@
 #include <database/hyperlink.h>
 #include <editor/system_variables.h>
 #include <editor/units.h>
+#include <plugin/entity_pe.h>
 
-#include <providers/entity_pe.h>
 #include <providers/row_readers.h>
 #include <values/names.h>
 #include <values/resource_string.h>

@@ -2,9 +2,9 @@
 #pragma once
 
 #include <entities/hatch.h>
+#include <plugin/entity_pe.h>
 #include <runtime/c_array.h>
 
-#include <providers/entity_pe.h>
 #include <providers/table_provider.h>
 
 /// What it lists depends on the hatch: gradients and patterns have keys of their own. It answers

@@ -2,8 +2,8 @@
 #pragma once
 
 #include <entities/all.h>
+#include <plugin/entity_pe.h>
 
-#include <providers/entity_pe.h>
 #include <providers/table_provider.h>
 
 KW_TABLE_PROVIDER(KdDb3dSolid_Extension, KdDbEntity_Extension, KdDb3dSolid)

@@ -1,7 +1,7 @@
 /// Providers that answer the General properties and no more.
 #pragma once
 
-#include <providers/entity_pe.h>
+#include <plugin/entity_pe.h>
 #include <providers/table_provider.h>
 
 KW_PLAIN_PROVIDER(KdDbAttribute_Extension, KdDbEntity_Extension)

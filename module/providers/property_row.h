@@ -5,9 +5,8 @@
 #include <string_view>
 
 #include <database/entity.h>
+#include <plugin/res_buf.h>
 #include <runtime/kd_array.h>
-
-#include <values/res_buf.h>
 
 /// A text by resource number with the default that stands in where the library lacks it.
 struct ResourceText

@@ -2,9 +2,9 @@
 #pragma once
 
 #include <entities/all.h>
+#include <plugin/entity_pe.h>
 #include <runtime/std_str.h>
 
-#include <providers/entity_pe.h>
 #include <providers/table_provider.h>
 
 /// Lists nothing at all for entities of other classes, not even what its base lists.

@@ -4,8 +4,8 @@
 #include <array>
 
 #include <entities/viewport.h>
+#include <plugin/entity_pe.h>
 
-#include <providers/entity_pe.h>
 #include <providers/table_provider.h>
 
 class KdDbViewport_Extension

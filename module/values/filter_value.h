@@ -4,9 +4,8 @@
 #include <optional>
 
 #include <database/color.h>
+#include <plugin/res_buf.h>
 #include <runtime/kd_string.h>
-
-#include <values/res_buf.h>
 
 /// What became of a text.
 enum class FilterText

@@ -7,7 +7,7 @@
 
 #include <editor/system_variables.h>
 #include <entities/block_reference.h>
-#include <values/res_buf.h>
+#include <plugin/res_buf.h>
 #include <values/resource_string.h>
 #include <values/table_walk.h>
 #include <values/text_utilities.h>

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <iterator>
 
-#include <values/res_buf.h>
+#include <plugin/res_buf.h>
 
 namespace {
 

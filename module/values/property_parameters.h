@@ -1,8 +1,8 @@
 /// What one comparison of a property is about.
 #pragma once
 
+#include <plugin/res_buf.h>
 #include <runtime/kd_string.h>
-#include <values/res_buf.h>
 
 /// Passed by value: the callee has texts of its own, which costs no allocation.
 struct PropertyParameters

@@ -4,7 +4,7 @@
 #include <type_traits>
 
 #include <database/color.h>
-#include <values/res_buf.h>
+#include <plugin/res_buf.h>
 
 /// Makes and frees what `ResBuf::Data` holds.
 class type_factory

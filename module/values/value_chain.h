@@ -1,7 +1,7 @@
 /// Holds a chain of value records for the length of a scope.
 #pragma once
 
-#include <values/res_buf.h>
+#include <plugin/res_buf.h>
 
 class ValueChain
 {

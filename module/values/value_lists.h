@@ -4,8 +4,8 @@
 #include <vector>
 
 #include <database/object_id.h>
+#include <plugin/res_buf.h>
 #include <runtime/kd_string.h>
-#include <values/res_buf.h>
 
 /// One line of a list.
 struct listUnit

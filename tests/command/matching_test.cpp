@@ -4,11 +4,11 @@
 #include <entities/mesh.h>
 #include <entities/proxy_entity.h>
 #include <entities/viewport.h>
+#include <plugin/entity_pe.h>
 
 #include <command/entry.h>
 #include <command/matching.h>
 #include <command/selection_run.h>
-#include <providers/entity_pe.h>
 
 using namespace command_test;
 using testing::ElementsAre;

@@ -20,10 +20,10 @@
 #include <database/database.h>
 #include <editor/selection_sets.h>
 #include <platform/message_box.h>
+#include <plugin/entity_pe.h>
 
 #include <command/resource_scope.h>
 #include <dialog/qselect_dialog.h>
-#include <providers/entity_pe.h>
 
 namespace dialog_test {
 

@@ -1,5 +1,6 @@
 #!/usr/bin/env python3
-"""The Debian package: what is in it, what it asks for, and that it runs where it is unpacked."""
+"""The Debian packages: what is in them, what they ask for, that what is installed is in order for
+the desktop and the shell, and that the programs run where they are unpacked."""
 
 import argparse
 import os
@@ -19,51 +20,101 @@ def output(*command, **options):
     return done.stdout
 
 
-class DebianPackage(unittest.TestCase):
+class DebianPackages(unittest.TestCase):
     @classmethod
     def setUpClass(cls):
         cls.folder = tempfile.TemporaryDirectory()
-        cls.root = Path(cls.folder.name) / "root"
         output(given.cpack, "-G", "DEB", "-B", cls.folder.name,
                "--config", Path(given.build) / "CPackConfig.cmake")
-        cls.package, = Path(cls.folder.name).glob("*.deb")
-        output("dpkg-deb", "-x", cls.package, cls.root)
+        packages = Path(cls.folder.name).glob("*.deb")
+        cls.packages = {package.name.split("_")[0]: package for package in packages}
+        cls.roots = {}
+        for name, package in cls.packages.items():
+            cls.roots[name] = Path(cls.folder.name) / "roots" / name
+            cls.roots[name].mkdir(parents=True)
+            output("dpkg-deb", "-x", package, cls.roots[name])
+        cls.installed = cls.roots["kwqselect"] / "usr"
 
     @classmethod
     def tearDownClass(cls):
         cls.folder.cleanup()
 
-    def field(self, name):
-        return output("dpkg-deb", "-f", self.package, name).strip()
+    def field(self, name, package="kwqselect"):
+        return output("dpkg-deb", "-f", self.packages[package], name).strip()
 
-    def test_is_named_as_debian_has_it(self):
-        self.assertRegex(self.package.name, r"^kwqselect_[0-9.]+_[a-z0-9]+\.deb$")
-        self.assertEqual(self.field("Package"), "kwqselect")
-        self.assertEqual(self.field("Section"), "graphics")
+    def test_are_named_as_debian_has_it(self):
+        self.assertEqual(set(self.packages), {"kwqselect", "kwqselect-dev"})
+        for name, section in (("kwqselect", "graphics"), ("kwqselect-dev", "libdevel")):
+            self.assertRegex(self.packages[name].name, rf"^{name}_[0-9.]+_[a-z0-9]+\.deb$")
+            self.assertEqual(self.field("Package", name), name)
+            self.assertEqual(self.field("Section", name), section)
 
-    def test_asks_for_the_libraries_that_its_programs_link(self):
+    def test_tell_what_they_are_for(self):
+        self.assertRegex(self.field("Description"), r"^find entities of CAD drawings .*\n Finds every entity")
+        self.assertRegex(self.field("Description", "kwqselect-dev"),
+                         r"^build hosts and property providers .*\n Headers, CMake package")
+
+    def test_ask_for_the_libraries_that_the_programs_link(self):
         wanted = self.field("Depends")
         for library in ("libc6", "libqt5core5a", "libqt5widgets5", "libocct-foundation"):
             self.assertIn(library, wanted)
 
-    def test_lies_below_usr_alone(self):
-        self.assertEqual(os.listdir(self.root), ["usr"])
+    def test_of_the_sdk_asks_for_the_libraries_of_its_own_version(self):
+        self.assertEqual(self.field("Depends", "kwqselect-dev"),
+                         f"kwqselect (= {self.field('Version')}), qtbase5-dev")
 
-    def test_holds_programs_module_texts_pages_and_completions(self):
+    def test_lie_below_usr_alone(self):
+        for root in self.roots.values():
+            self.assertEqual(os.listdir(root), ["usr"])
+
+    def test_hold_programs_module_texts_pages_and_completions(self):
         for name in ("bin/kwselect", "lib/kwqselect/KwQselectUtil.so",
                      "lib/kwqselect/resources/en/KwQselectUtilRes.so",
                      "share/man/man1/kwselect.1", "share/bash-completion/completions/kwselect",
                      "share/zsh/vendor-completions/_kwselect",
                      "share/fish/vendor_completions.d/kwselect.fish",
                      "share/doc/kwqselect/LICENSE"):
-            self.assertTrue((self.root / "usr" / name).is_file(), name)
+            self.assertTrue((self.installed / name).is_file(), name)
 
-    def test_runs_where_it_is_unpacked(self):
-        program = self.root / "usr" / "bin" / "kwselect"
+    def test_leave_the_sdk_to_a_package_of_its_own(self):
+        self.assertFalse((self.installed / "include").exists())
+        for name in ("include/kwqselect/plugin/quick_select.h",
+                     "lib/cmake/KwQselect/KwQselectConfig.cmake", "lib/pkgconfig/kwhost.pc",
+                     "share/doc/kwqselect-dev/examples/provider/fall_provider.cpp"):
+            self.assertTrue((self.roots["kwqselect-dev"] / "usr" / name).is_file(), name)
+
+    def test_run_where_they_are_unpacked(self):
+        program = self.installed / "bin" / "kwselect"
         drawing = Path(given.drawings) / "floor_plan.dxf"
         environment = {"PATH": "/usr/bin:/bin", "HOME": self.folder.name}
-        self.assertEqual(output(program, drawing, "Circle: Radius > 20", env=environment), "41\n52\n")
+        handles = output(program, drawing, "Circle: Radius > 20", env=environment)
+        self.assertEqual(handles, "41\n52\n")
         self.assertIn(self.field("Version"), output(program, "--version", env=environment))
+
+    # What other programs read.
+
+    def every(self, pattern):
+        found = sorted(self.installed.glob(pattern))
+        self.assertNotEqual(found, [], pattern)
+        return found
+
+    def test_desktop_entries_are_valid_and_name_what_is_installed(self):
+        for entry in self.every("share/applications/*.desktop"):
+            output("desktop-file-validate", entry)
+            lines = entry.read_text().splitlines()
+            keys = dict(line.split("=", 1) for line in lines if "=" in line)
+            self.assertTrue((self.installed / "bin" / keys["Exec"].split()[0]).is_file())
+            icons = self.installed.glob(f"share/icons/**/{keys['Icon']}.svg")
+            self.assertEqual(len(list(icons)), 1)
+
+    def test_metadata_of_the_application_are_valid_and_tell_this_version(self):
+        for metadata in self.every("share/metainfo/*.xml"):
+            output("appstreamcli", "validate", "--no-net", "--no-color", metadata)
+            self.assertIn(f'<release version="{self.field("Version")}"', metadata.read_text())
+
+    def test_manual_pages_are_in_order(self):
+        for page in self.every("share/man/man*/*"):
+            self.assertEqual(output("mandoc", "-T", "lint", "-W", "warning", page), "")
 
 
 if __name__ == "__main__":

@@ -7,9 +7,9 @@
 #include <editor/selection_sets.h>
 #include <editor/system_variables.h>
 #include <entities/all.h>
+#include <plugin/entity_pe.h>
 
 #include <command/selection_run.h>
-#include <providers/entity_pe.h>
 #include <values/display_name.h>
 #include <values/filter_value.h>
 

@@ -5,8 +5,8 @@
 #include <numbers>
 
 #include <database/color.h>
+#include <plugin/entity_pe.h>
 
-#include <providers/entity_pe.h>
 #include <values/value_chain.h>
 
 namespace properties_test {

@@ -10,8 +10,8 @@
 #include <database/database.h>
 #include <platform/message_box.h>
 #include <platform/resources.h>
+#include <plugin/entity_pe.h>
 
-#include <providers/entity_pe.h>
 #include <values/value_chain.h>
 
 namespace provider_test {

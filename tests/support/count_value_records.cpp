@@ -1,4 +1,4 @@
-#include <values/res_buf.h>
+#include <plugin/res_buf.h>
 
 #include "leftovers.h"
 

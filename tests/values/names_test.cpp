@@ -10,7 +10,7 @@
 #include <editor/system_variables.h>
 #include <entities/block_reference.h>
 #include <entities/line.h>
-#include <values/res_buf.h>
+#include <plugin/res_buf.h>
 
 #include "support.h"
 

@@ -5,7 +5,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <values/res_buf.h>
+#include <plugin/res_buf.h>
 
 using testing::ElementsAre;
 

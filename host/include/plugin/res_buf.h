@@ -10,7 +10,7 @@ class KdCmColor;
 /// A tagged value with a link to a next record. A chain carries a value with the values allowed
 /// beside it, or several points. A record owns its value; the link owns nothing, and whoever holds
 /// the head of a chain frees it with `relRb`. For use on one thread.
-class ResBuf : public KdRxObject
+class KW_EXPORT ResBuf : public KdRxObject
 {
   public:
     /// The kinds. From 5000 on they tell the form of a value, below that what it stands for.

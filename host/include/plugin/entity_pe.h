@@ -2,16 +2,15 @@
 #pragma once
 
 #include <database/entity.h>
+#include <plugin/res_buf.h>
 #include <runtime/c_array.h>
 #include <runtime/kd_array.h>
 #include <runtime/rx_class.h>
 
-#include <values/res_buf.h>
-
 /// The protocol extension that answers for the properties of entities. One object for each host
 /// class is attached under `desc()`; providers keep no state. Binary interface: the order of the
 /// virtual operations is fixed.
-class KdDbEntityPE : public KdRxObject
+class KW_EXPORT KdDbEntityPE : public KdRxObject
 {
   public:
     /// One line of the lineweight list.
@@ -56,7 +55,7 @@ class KdDbEntityPE : public KdRxObject
 };
 
 /// The root of all providers.
-class KdDbEntity_Extension : public KdDbEntityPE
+class KW_EXPORT KdDbEntity_Extension : public KdDbEntityPE
 {
   public:
     static KdRxClass* gpDesc;
