@@ -34,6 +34,21 @@ constexpr int kCounted = 0;
 constexpr int kCounted = 1;
 #endif
 
+// A change of kind reinterprets the bytes of plain values, hence the copies.
+template <class T>
+T load(const ResBuf::Data& data)
+{
+    T value;
+    std::memcpy(&value, data.bytes, sizeof value);
+    return value;
+}
+
+template <class T>
+void store(ResBuf::Data& data, T value)
+{
+    std::memcpy(data.bytes, &value, sizeof value);
+}
+
 ResBuf* tailOf(ResBuf* record)
 {
     while (record->next())
@@ -118,21 +133,6 @@ void ResBuf::rxInit()
     registerDescriptor(gpDesc, {kClassName, KdRxObject::desc()->name(), kProxyFlags, makeRecord});
 }
 
-// A change of kind reinterprets the bytes of plain values, hence the copies.
-template <class T>
-T ResBuf::load() const
-{
-    T value;
-    std::memcpy(&value, m_data.bytes, sizeof value);
-    return value;
-}
-
-template <class T>
-void ResBuf::store(T value)
-{
-    std::memcpy(m_data.bytes, &value, sizeof value);
-}
-
 KdString ResBuf::getString() const
 {
     return holdsText(m_restype) ? *m_data.text : KdString();
@@ -141,28 +141,28 @@ KdString ResBuf::getString() const
 bool ResBuf::getBool() const
 {
     if (m_restype == kBool)
-        return load<std::uint8_t>() != 0;
+        return load<std::uint8_t>(m_data) != 0;
     return getInt16() != 0;
 }
 
 signed char ResBuf::getInt8() const
 {
-    return m_restype == kInt8 ? load<std::int8_t>() : 0;
+    return m_restype == kInt8 ? load<std::int8_t>(m_data) : 0;
 }
 
 short ResBuf::getInt16() const
 {
-    return m_restype == kInt16 ? load<std::int16_t>() : 0;
+    return m_restype == kInt16 ? load<std::int16_t>(m_data) : 0;
 }
 
 int ResBuf::getInt32() const
 {
     switch (m_restype) {
     case kInt32:
-        return load<std::int32_t>();
+        return load<std::int32_t>(m_data);
     case kInt16:
     case kInt8:
-        return load<std::int16_t>();
+        return load<std::int16_t>(m_data);
     default:
         return 0;
     }
@@ -170,7 +170,7 @@ int ResBuf::getInt32() const
 
 double ResBuf::getDouble() const
 {
-    return holdsReal(m_restype) ? load<double>() : 0.0;
+    return holdsReal(m_restype) ? load<double>(m_data) : 0.0;
 }
 
 const KdGePoint2d& ResBuf::getPoint2d() const
@@ -198,31 +198,31 @@ void ResBuf::setString(const KdString& text)
 void ResBuf::setBool(bool value)
 {
     if (m_restype == kBool)
-        store<std::uint8_t>(value);
+        store<std::uint8_t>(m_data, value);
 }
 
 void ResBuf::setInt8(signed char value)
 {
     if (m_restype == kInt8)
-        store<std::int16_t>(value);
+        store<std::int16_t>(m_data, value);
 }
 
 void ResBuf::setInt16(short value)
 {
     if (m_restype == kInt16)
-        store<std::int16_t>(value);
+        store<std::int16_t>(m_data, value);
 }
 
 void ResBuf::setInt32(int value)
 {
     if (m_restype == kInt32)
-        store<std::int32_t>(value);
+        store<std::int32_t>(m_data, value);
 }
 
 void ResBuf::setDouble(double value)
 {
     if (holdsReal(m_restype))
-        store(value);
+        store(m_data, value);
 }
 
 void ResBuf::setPoint2d(const KdGePoint2d& point)

@@ -130,11 +130,6 @@ class KW_EXPORT ResBuf : public KdRxObject
     static KdRxClass* gpDesc;
 
   private:
-    template <class T>
-    T load() const;
-    template <class T>
-    void store(T value);
-
     static long long s_recordsInUse;
 
     int m_restype = kNone;
