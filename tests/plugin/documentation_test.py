@@ -113,6 +113,17 @@ class Integration(unittest.TestCase):
                     self.assertRegex(body[0], rf"virtual [^;]*\b{operation}\(", owner)
 
 
+    def test_names_every_entry_function(self):
+        text = (ROOT / "docs/integration.md").read_text()
+        entries = text[text.index("## Entry functions"):text.index("## Order of loading")]
+        named = set(re.findall(r"`(\w+)", entries))
+        symbols = output("nm", "-D", "--defined-only", MODULE).splitlines()
+        exported = {line.split()[2] for line in symbols}
+        functions = {name for name in exported if re.match("QSelect|selectCmd|DllMain", name)}
+        self.assertGreater(len(functions), 10)
+        self.assertEqual(functions - named, set())
+
+
 class Symbols(unittest.TestCase):
     def test_are_split_into_class_and_operation(self):
         for symbol, expected in (
