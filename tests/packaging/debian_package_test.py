@@ -50,7 +50,7 @@ class DebianPackages(unittest.TestCase):
             self.assertEqual(self.field("Section", name), section)
 
     def test_tell_what_they_are_for(self):
-        self.assertRegex(self.field("Description"), r"^find entities of CAD drawings .*\n Finds every entity")
+        self.assertRegex(self.field("Description"), r"^find entities of CAD drawings .*\n Finds every")
         self.assertRegex(self.field("Description", "kwqselect-dev"),
                          r"^build hosts and property providers .*\n Headers, CMake package")
 
