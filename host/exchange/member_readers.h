@@ -36,6 +36,7 @@ std::span<const MemberReaderRow> meshReaders();
 std::span<const MemberReaderRow> textReaders();
 std::span<const MemberReaderRow> mtextReaders();
 std::span<const MemberReaderRow> specialTextReaders();
+std::span<const MemberReaderRow> spatialFilterReaders();
 std::span<const MemberReaderRow> leaderReaders();
 std::span<const MemberReaderRow> mleaderReaders();
 std::span<const MemberReaderRow> insertReaders();

@@ -16,14 +16,14 @@ void readNothingMore(RecordReader& reader, ObjectMembers&)
 
 /// The rows of all families.
 constexpr std::span<const MemberReaderRow> (*kFamilies[])() = {
-    actionBodyReaders, associativityReaders,  blockElementReaders, curveReaders,
-    dimensionReaders,  dimensionStyleReaders, faceReaders,         geoPositionReaders,
-    hatchReaders,      imageReaders,          insertReaders,       leaderReaders,
-    lightReaders,      meshReaders,           mleaderReaders,      mlineReaders,
-    mtextReaders,      objectReaders,         pointCloudReaders,   polylineReaders,
-    proxyReaders,      sectionReaders,        solid3dReaders,      specialTextReaders,
-    splineReaders,     tableReaders,          textReaders,         viewportReaders,
-    xrecordReaders,
+    actionBodyReaders,  associativityReaders,  blockElementReaders, curveReaders,
+    dimensionReaders,   dimensionStyleReaders, faceReaders,         geoPositionReaders,
+    hatchReaders,       imageReaders,          insertReaders,       leaderReaders,
+    lightReaders,       meshReaders,           mleaderReaders,      mlineReaders,
+    mtextReaders,       objectReaders,         pointCloudReaders,   polylineReaders,
+    proxyReaders,       sectionReaders,        solid3dReaders,      spatialFilterReaders,
+    specialTextReaders, splineReaders,         tableReaders,        textReaders,
+    viewportReaders,    xrecordReaders,
 };
 
 /// All rows by class.

@@ -49,6 +49,7 @@
 #include <entities/shape.h>
 #include <entities/solid3d.h>
 #include <entities/solid_history.h>
+#include <entities/spatial_filter.h>
 #include <entities/special_text.h>
 #include <entities/spline.h>
 #include <entities/surface.h>

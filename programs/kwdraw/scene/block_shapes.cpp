@@ -1,18 +1,30 @@
 // What shows the contents of blocks.
 #include <cmath>
+#include <span>
+#include <vector>
 
 #include <entities/attribute.h>
 #include <entities/block_reference.h>
 #include <entities/dimension.h>
+#include <entities/spatial_filter.h>
 #include <kwdraw/scene/block_placement.h>
 #include <kwdraw/scene/entity_shapes.h>
 
 namespace {
 
-/// One use of the block, with the attributes of the reference.
-void drawOnce(const KdDbBlockReference& reference, const KdGeVector3d& shift, EntityWalk& walk)
+/// The corners along which the contents of the reference are cut, in the frame of the block. None
+/// if all is shown.
+std::vector<KdGePoint3d> clipOf(const KdDbBlockReference& reference)
 {
-    walk.drawBlock(reference.blockTableRecord(), shiftBy(shift) * reference.blockTransform());
+    const OpenForRead<KdDbSpatialFilter> filter(KdDbSpatialFilter::filterOf(reference));
+    return filter && filter->isEnabled() ? filter->boundaryInBlock() : std::vector<KdGePoint3d>();
+}
+
+/// One use of the block, with the attributes of the reference.
+void drawOnce(const KdDbBlockReference& reference, std::span<const KdGePoint3d> clip,
+              const KdGeVector3d& shift, EntityWalk& walk)
+{
+    walk.drawBlock(reference.blockTableRecord(), shiftBy(shift) * reference.blockTransform(), clip);
     SceneWriter& writer = walk.writer();
     const KdGeMatrix3d outside = writer.frame();
     writer.setFrame(outside * shiftBy(shift));
@@ -23,11 +35,12 @@ void drawOnce(const KdDbBlockReference& reference, const KdGeVector3d& shift, En
 
 void drawReference(const KdDbBlockReference& reference, EntityWalk& walk)
 {
-    drawOnce(reference, {}, walk);
+    drawOnce(reference, clipOf(reference), {}, walk);
 }
 
 void drawGrid(const KdDbMInsertBlock& grid, EntityWalk& walk)
 {
+    const std::vector<KdGePoint3d> clip = clipOf(grid);
     const double c = std::cos(grid.rotation());
     const double s = std::sin(grid.rotation());
     const KdGeMatrix3d plane = KdGeMatrix3d::planeToWorld(grid.normal());
@@ -38,7 +51,7 @@ void drawGrid(const KdDbMInsertBlock& grid, EntityWalk& walk)
             const bool isFirst = row == 0 && column == 0;
             if (walk.isTooMuch() && !isFirst) // a grid may have billions of places
                 return;
-            drawOnce(grid, toNextColumn * column + toNextRow * row, walk);
+            drawOnce(grid, clip, toNextColumn * column + toNextRow * row, walk);
         }
     }
 }

@@ -163,11 +163,12 @@ const std::vector<KdDbObjectId>& EntityWalk::contentsOf(KdDbObjectId block)
 
 std::size_t EntityWalk::pointsLeft() const
 {
-    const std::uint64_t used = m_scene.points.size() + m_work;
+    const std::uint64_t used = m_scene.points.size() + m_work + m_writer.clippingWork();
     return used < kMostWork ? kMostWork - used : 0;
 }
 
-void EntityWalk::drawBlock(KdDbObjectId block, const KdGeMatrix3d& placement)
+void EntityWalk::drawBlock(KdDbObjectId block, const KdGeMatrix3d& placement,
+                           std::span<const KdGePoint3d> clip)
 {
     const bool isLoop = std::ranges::find(m_activeBlocks, block) != m_activeBlocks.end();
     if (block.isNull() || isLoop || m_activeBlocks.size() > kDeepestNesting)
@@ -188,12 +189,14 @@ void EntityWalk::drawBlock(KdDbObjectId block, const KdGeMatrix3d& placement)
     if (!isInSpace() && !m_coverLayer && m_looks.isFrozen(m_entityLayer))
         m_coverLayer = m_entityLayer;
     m_writer.setFrame(frame * placement);
+    m_writer.pushClip(clip);
     m_activeBlocks.push_back(block);
     if (isTooMuch())
         drawAsBox(block);
     else
         drawContents(contentsOf(block));
     m_activeBlocks.pop_back();
+    m_writer.popClip();
     m_writer.setFrame(frame);
     m_writer.setLook(look, layer);
 }

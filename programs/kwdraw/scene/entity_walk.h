@@ -3,6 +3,7 @@
 
 #include <functional>
 #include <optional>
+#include <span>
 #include <unordered_map>
 #include <vector>
 
@@ -70,7 +71,9 @@ class EntityWalk
 
     /// Draws the entities of a block, seen through the entity that is being drawn. A block that is
     /// just being drawn shows nothing.
-    void drawBlock(KdDbObjectId block, const KdGeMatrix3d& placement);
+    /// @param clip  corners in the frame of the block, between which it is seen; empty: all of it
+    void drawBlock(KdDbObjectId block, const KdGeMatrix3d& placement,
+                   std::span<const KdGePoint3d> clip = {});
     /// Draws an entity that belongs to the one that is being drawn, such as an attribute.
     void drawPart(KdDbObjectId part);
 

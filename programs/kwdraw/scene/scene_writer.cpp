@@ -7,6 +7,7 @@
 
 #include <kwdraw/scene/curve_box.h>
 #include <kwdraw/texts/font_metrics.h>
+#include <kwdraw/texts/letter_outlines.h>
 
 namespace {
 
@@ -100,24 +101,53 @@ SceneShape* SceneWriter::addPlain(SceneShape::Kind kind, const SceneBox& box)
     return isFinite(box) ? &addShape(kind, box) : nullptr;
 }
 
+void SceneWriter::pushClip(std::span<const KdGePoint3d> corners)
+{
+    std::vector<QPointF> inScene;
+    inScene.reserve(corners.size());
+    for (const KdGePoint3d& corner : corners)
+        inScene.push_back(placed(corner));
+    m_clips.push(std::move(inScene));
+}
+
 SceneShape* SceneWriter::addPath(SceneShape::Kind kind, const ScenePath& path)
 {
-    if (path.isEmpty())
-        return nullptr;
-    const std::size_t firstPoint = m_scene.points.size();
+    m_path.steps.assign(path.steps().begin(), path.steps().end());
+    m_path.points.clear();
     for (const KdGePoint3d& point : path.points())
-        m_scene.points.push_back(placed(point));
-    const SceneBox box = boxOfPath(path.steps(), std::span(m_scene.points).subspan(firstPoint));
-    if (!isFinite(box)) {
-        m_scene.points.resize(firstPoint);
+        m_path.points.push_back(placed(point));
+    return m_clips.isEmpty() ? addPath(kind, m_path) : addClipped(kind, m_path);
+}
+
+SceneShape* SceneWriter::addClipped(SceneShape::Kind kind, const PlanePath& path)
+{
+    const SceneBox box = boxOfPath(path.steps, path.points);
+    if (!isFinite(box))
         return nullptr;
+    switch (m_clips.visiblePart(box)) {
+    case ClipArea::Part::None:
+        return nullptr;
+    case ClipArea::Part::Some:
+        return addPath(kind, kind == SceneShape::Kind::Stroke ? m_clips.cutLine(path)
+                                                              : m_clips.cutFill(path));
+    case ClipArea::Part::All:
+        break;
     }
+    return addPath(kind, path);
+}
+
+SceneShape* SceneWriter::addPath(SceneShape::Kind kind, const PlanePath& path)
+{
+    const SceneBox box = boxOfPath(path.steps, path.points);
+    if (path.steps.empty() || !isFinite(box))
+        return nullptr;
     SceneShape& shape = addShape(kind, box);
-    shape.firstPoint = static_cast<std::uint32_t>(firstPoint);
-    shape.pointCount = static_cast<std::uint32_t>(path.points().size());
+    shape.firstPoint = static_cast<std::uint32_t>(m_scene.points.size());
+    shape.pointCount = static_cast<std::uint32_t>(path.points.size());
     shape.firstStep = static_cast<std::uint32_t>(m_scene.steps.size());
-    shape.stepCount = static_cast<std::uint32_t>(path.steps().size());
-    m_scene.steps.insert(m_scene.steps.end(), path.steps().begin(), path.steps().end());
+    shape.stepCount = static_cast<std::uint32_t>(path.steps.size());
+    m_scene.points.insert(m_scene.points.end(), path.points.begin(), path.points.end());
+    m_scene.steps.insert(m_scene.steps.end(), path.steps.begin(), path.steps.end());
     return &shape;
 }
 
@@ -160,11 +190,38 @@ void SceneWriter::text(const QString& text, const SceneFont& font, const KdGeMat
     const QTransform map = placed(placement);
     const double advance = advanceOf(font, text);
     const SceneBox box = boxOfFrame(map, 0.0, -descentOf(font), advance, 1.0);
-    SceneShape* shape = text.isEmpty() ? nullptr : addPlain(SceneShape::Kind::Text, box);
-    if (!shape)
+    if (text.isEmpty() || !isFinite(box))
         return;
-    shape->index = static_cast<std::uint32_t>(m_scene.texts.size());
+    const ClipArea::Part seen = m_clips.visiblePart(box);
+    if (seen == ClipArea::Part::Some)
+        return fillLetters(text, font, map);
+    if (seen == ClipArea::Part::None)
+        return;
+    SceneShape& shape = addShape(SceneShape::Kind::Text, box);
+    shape.index = static_cast<std::uint32_t>(m_scene.texts.size());
     m_scene.texts.push_back({text, indexOf(font), map, advance});
+}
+
+/// The letters as shapes, which can be cut.
+void SceneWriter::fillLetters(const QString& text, const SceneFont& font, const QTransform& map)
+{
+    if (needsShaping(text))
+        return fillOutline(outlineOf(font, text), map);
+    double at = 0.0;
+    for (const uint letter : text.toUcs4()) {
+        const LetterOutline outline = outlineOf(font, QString::fromUcs4(&letter, 1));
+        fillOutline(outline, QTransform::fromTranslate(at, 0.0) * map);
+        at += outline.advance;
+    }
+}
+
+void SceneWriter::fillOutline(const LetterOutline& outline, const QTransform& map)
+{
+    m_path.steps = outline.steps;
+    m_path.points.clear();
+    for (const QPointF& point : outline.points)
+        m_path.points.push_back(map.map(point));
+    addClipped(SceneShape::Kind::Fill, m_path);
 }
 
 void SceneWriter::image(const QImage& picture, const KdGeMatrix3d& placement,
@@ -185,6 +242,8 @@ void SceneWriter::marker(const KdGePoint3d& position, int mode, double size)
     const QPointF place = placed(position);
     const double reach = size > 0.0 ? size / 2.0 : 0.0;
     const SceneBox box{place.x() - reach, place.y() - reach, place.x() + reach, place.y() + reach};
+    if (!m_clips.holds(place))
+        return;
     SceneShape* shape = addPlain(SceneShape::Kind::Marker, box);
     if (!shape)
         return;
@@ -200,6 +259,10 @@ void SceneWriter::ray(const KdGePoint3d& base, const KdGeVector3d& direction, bo
     constexpr double kNoLength = 1e-9;
     if (!(length > kNoLength))
         return;
+    if (!m_clips.isEmpty()) {
+        addPath(SceneShape::Kind::Stroke, m_clips.cutRay(place, toward / length, bothSides));
+        return;
+    }
     SceneShape* shape =
         addPlain(SceneShape::Kind::Ray, {place.x(), place.y(), place.x(), place.y()});
     if (!shape)

@@ -9,7 +9,10 @@
 #include <vector>
 
 #include <geometry/matrix.h>
+#include <kwdraw/scene/clip_stack.h>
 #include <kwdraw/scene/scene.h>
+
+struct LetterOutline;
 
 /// A path in space, put together step by step.
 class ScenePath
@@ -51,6 +54,14 @@ class SceneWriter
     /// to the plane of the scene.
     void setFrame(const KdGeMatrix3d& toScene) { m_frame = toScene; }
     const KdGeMatrix3d& frame() const { return m_frame; }
+    /// What comes now is seen only between these corners, which are in the frame in force, and
+    /// between those of earlier calls. Fewer than three corners, and corners without an area
+    /// between them, hide nothing. Ends with `popClip`.
+    void pushClip(std::span<const KdGePoint3d> corners);
+    void popClip() { m_clips.pop(); }
+    /// How much work clips have made, in points that could have been written instead.
+    std::uint64_t clippingWork() const { return m_clips.work(); }
+
     void setLook(const SceneLook& look, std::uint32_t layer);
     const SceneLook& look() const { return m_look; }
     std::uint32_t layer() const { return m_layer; }
@@ -71,8 +82,13 @@ class SceneWriter
   private:
     QPointF placed(const KdGePoint3d& point) const;
     QTransform placed(const KdGeMatrix3d& placement) const;
-    /// A shape around a path that is added to the scene's; null if the path has no finite place.
+    /// A shape around what can be seen of a path; null if nothing can, or if the path has no finite
+    /// place.
     SceneShape* addPath(SceneShape::Kind kind, const ScenePath& path);
+    SceneShape* addPath(SceneShape::Kind kind, const PlanePath& path);
+    SceneShape* addClipped(SceneShape::Kind kind, const PlanePath& path);
+    void fillLetters(const QString& text, const SceneFont& font, const QTransform& map);
+    void fillOutline(const LetterOutline& outline, const QTransform& map);
     /// A shape without a path; null if its box is not finite.
     SceneShape* addPlain(SceneShape::Kind kind, const SceneBox& box);
     SceneShape& addShape(SceneShape::Kind kind, const SceneBox& box);
@@ -84,6 +100,8 @@ class SceneWriter
     };
 
     Scene& m_scene;
+    ClipStack m_clips;
+    PlanePath m_path; ///< kept for its memory
     KdGeMatrix3d m_frame;
     SceneLook m_look;
     std::uint32_t m_lookIndex = kNoLook;

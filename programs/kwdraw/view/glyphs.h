@@ -1,43 +1,35 @@
 /// Outlines of letters.
 #pragma once
 
-#include <QPainterPath>
-
 #include <memory>
 #include <unordered_map>
 #include <vector>
 
 #include <kwdraw/scene/scene.h>
+#include <kwdraw/texts/letter_outlines.h>
 
 #include "path_walk.h"
 
-/// A path as a scene has it.
-struct GlyphOutline
+inline PathView viewOf(const LetterOutline& outline)
 {
-    std::vector<PathStep> steps;
-    std::vector<QPointF> points; ///< capital letters 1 high, y upwards
-    double advance = 0.0;
-
-    PathView view() const { return {steps, points}; }
-};
+    return {outline.steps, outline.points};
+}
 
 /// Keeps the outlines of the letters that were drawn. For one thread.
 class GlyphStore
 {
   public:
     /// Stays where it is as long as the store lives.
-    const GlyphOutline& glyph(const SceneFont& font, uint letter);
+    const LetterOutline& glyph(const SceneFont& font, uint letter);
     /// A text whose letters depend on each other, in one outline; lives until the next call.
-    const GlyphOutline& shaped(const SceneFont& font, const QString& text);
-    /// True for texts that can't be put together letter by letter.
-    static bool needsShaping(const QString& text);
+    const LetterOutline& shaped(const SceneFont& font, const QString& text);
 
   private:
     struct Face
     {
         SceneFont font;
-        std::unordered_map<uint, GlyphOutline> letters;
-        std::unordered_map<QString, GlyphOutline> texts;
+        std::unordered_map<uint, LetterOutline> letters;
+        std::unordered_map<QString, LetterOutline> texts;
     };
     Face& face(const SceneFont& font);
 

@@ -29,11 +29,11 @@ template <class Sink>
 void walkText(const SceneText& text, const SceneFont& font, GlyphStore& glyphs,
               const PixelFrame& frame, const ClipBox& clip, Sink& sink)
 {
-    if (GlyphStore::needsShaping(text.text)) {
-        const GlyphOutline& outline = glyphs.shaped(font, text.text);
+    if (needsShaping(text.text)) {
+        const LetterOutline& outline = glyphs.shaped(font, text.text);
         const double stretch =
             text.advance > 0.0 && outline.advance > 0.0 ? text.advance / outline.advance : 1.0;
-        return walkPath(outline.view(), frame.within(QTransform::fromScale(stretch, 1.0)), clip,
+        return walkPath(viewOf(outline), frame.within(QTransform::fromScale(stretch, 1.0)), clip,
                         sink);
     }
     const QVector<uint> letters = text.text.toUcs4();
@@ -43,8 +43,8 @@ void walkText(const SceneText& text, const SceneFont& font, GlyphStore& glyphs,
     const double stretch = text.advance > 0.0 && advance > 0.0 ? text.advance / advance : 1.0;
     double at = 0.0;
     for (const uint letter : letters) {
-        const GlyphOutline& outline = glyphs.glyph(font, letter);
-        walkPath(outline.view(), frame.within(QTransform(stretch, 0.0, 0.0, 1.0, at, 0.0)), clip,
+        const LetterOutline& outline = glyphs.glyph(font, letter);
+        walkPath(viewOf(outline), frame.within(QTransform(stretch, 0.0, 0.0, 1.0, at, 0.0)), clip,
                  sink);
         at += outline.advance * stretch;
     }
