@@ -1,6 +1,8 @@
 #include <entities/mline.h>
 
 #include <algorithm>
+#include <cmath>
+#include <utility>
 
 #include "corners.h"
 
@@ -32,8 +34,16 @@ std::vector<KdGeVector3d> directionsOf(const std::vector<KdGePoint3d>& path, boo
     return directions;
 }
 
+/// From an end of the path to the point that a line in the distance 1 to the left of it has there.
+KdGeVector3d miterOfEnd(const KdGeVector3d& left, const KdGeVector3d& direction, double angle)
+{
+    constexpr double kFlat = 1e-3; // a flatter end leads nowhere
+    const double rise = std::sin(angle);
+    return std::abs(rise) > kFlat ? left + direction * (std::cos(angle) / rise) : left;
+}
+
 /// From each vertex to the point that a line in the distance 1 to the left of the path has there.
-std::vector<KdGeVector3d> mitersOf(const MlineMembers& mline)
+std::vector<KdGeVector3d> mitersOf(const MlineMembers& mline, const KdDbMlineStyle& style)
 {
     const std::vector<KdGeVector3d> directions = directionsOf(mline.vertices, mline.closed);
     const KdGeVector3d normal = mline.normal.normal();
@@ -48,7 +58,23 @@ std::vector<KdGeVector3d> mitersOf(const MlineMembers& mline)
         const double share = both.dotProduct(leaving);
         miters.push_back(share > kTurnsBack ? both * (1.0 / share) : leaving);
     }
+    if (!mline.closed) {
+        miters.front() = miterOfEnd(normal.crossProduct(directions.front()), directions.front(),
+                                    style.startAngle());
+        miters.back() =
+            miterOfEnd(normal.crossProduct(directions.back()), directions.back(), style.endAngle());
+    }
     return miters;
+}
+
+const MlineCut* findCut(const std::vector<MlineCut>& cuts, std::size_t vertex, std::size_t line)
+{
+    const auto found =
+        std::ranges::lower_bound(cuts, std::pair(vertex, line), {}, [](const MlineCut& cut) {
+            return std::pair(cut.vertex, cut.line);
+        });
+    const bool isThere = found != cuts.end() && found->vertex == vertex && found->line == line;
+    return isThere ? &*found : nullptr;
 }
 
 } // namespace
@@ -60,7 +86,7 @@ std::vector<std::vector<KdGePoint3d>> KdDbMline::elementLines() const
     constexpr std::size_t kFewest = 2;
     if (!style || style->offsets().empty() || mline.vertices.size() < kFewest)
         return {};
-    const std::vector<KdGeVector3d> miters = mitersOf(mline);
+    const std::vector<KdGeVector3d> miters = mitersOf(mline, *style);
     const double shift = shiftOf(mline.justification, style->offsets());
     std::vector<std::vector<KdGePoint3d>> lines;
     for (const double offset : style->offsets()) {
@@ -69,6 +95,16 @@ std::vector<std::vector<KdGePoint3d>> KdDbMline::elementLines() const
             line.push_back(mline.vertices[i] + miters[i] * ((offset + shift) * mline.scale));
     }
     return lines;
+}
+
+const MlineCut* KdDbMline::lineCut(std::size_t vertex, std::size_t line) const
+{
+    return findCut(data().lineCuts, vertex, line);
+}
+
+const MlineCut* KdDbMline::fillCut(std::size_t vertex, std::size_t line) const
+{
+    return findCut(data().fillCuts, vertex, line);
 }
 
 KdErrorStatus KdDbMline::getGeomExtents(KdGeExtents3d& extents) const

@@ -22,8 +22,64 @@ void takeFlags(int flags, MlineMembers& mline)
     mline.withoutEndCaps = (flags & kWithoutEndCaps) != 0;
 }
 
+/// Gathers the gaps. Behind each vertex stand, for each line of the style, the number of places on
+/// the line and these, of which the first is no place but the line's distance from the path; then
+/// in the same way those of the fill, which is thought to begin at the vertex.
+class CutReader
+{
+  public:
+    explicit CutReader(MlineMembers& mline) : m_mline(mline) {}
+
+    bool take(RecordReader& reader)
+    {
+        switch (reader.code()) {
+        case 41:
+            if (m_hasDistance)
+                add(m_mline.lineCuts, reader.real());
+            m_hasDistance = true;
+            return true;
+        case 42:
+            if (m_mline.fillCuts.empty() || !isHere(m_mline.fillCuts.back()))
+                add(m_mline.fillCuts, 0.0);
+            add(m_mline.fillCuts, reader.real());
+            return true;
+        case 74:
+            ++m_linesBegun;
+            m_hasDistance = false;
+            return true;
+        default:
+            return false;
+        }
+    }
+    void beginVertex() { m_linesBegun = 0; }
+    void finish()
+    {
+        std::erase_if(m_mline.lineCuts, [](const MlineCut& cut) {
+            return cut.places.size() == 1 && cut.places.front() == 0.0;
+        });
+    }
+
+  private:
+    std::size_t vertex() const { return m_mline.vertices.size() - 1; }
+    std::size_t line() const { return m_linesBegun - 1; }
+    bool isHere(const MlineCut& cut) const { return cut.vertex == vertex() && cut.line == line(); }
+    void add(std::vector<MlineCut>& cuts, double place)
+    {
+        if (m_mline.vertices.empty() || m_linesBegun == 0)
+            return;
+        if (cuts.empty() || !isHere(cuts.back()))
+            cuts.push_back({vertex(), line(), {}});
+        cuts.back().places.push_back(place);
+    }
+
+    MlineMembers& m_mline;
+    std::size_t m_linesBegun = 0; ///< at the vertex
+    bool m_hasDistance = false;
+};
+
 void readMline(RecordReader& reader, MlineMembers& mline)
 {
+    CutReader cuts(mline);
     KdString styleName;
     while (reader.next()) {
         switch (reader.code()) {
@@ -32,6 +88,7 @@ void readMline(RecordReader& reader, MlineMembers& mline)
             break;
         case 11:
             mline.vertices.push_back(reader.point());
+            cuts.beginVertex();
             break;
         case 40:
             mline.scale = reader.real();
@@ -49,9 +106,10 @@ void readMline(RecordReader& reader, MlineMembers& mline)
             mline.style = reader.reference();
             break;
         default:
-            break;
+            cuts.take(reader);
         }
     }
+    cuts.finish();
     if (mline.style.isNull()) { // some writers give the name alone
         const KdDbObjectId styles = KdDbMlineStyle::styleDictionary(reader.source().database);
         mline.style = kddbDictionaryEntry(styles, styleName.kwszPtr());

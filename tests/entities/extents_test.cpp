@@ -1,5 +1,6 @@
 #include <cmath>
 #include <cstdint>
+#include <numbers>
 #include <utility>
 #include <vector>
 
@@ -151,6 +152,22 @@ TEST_F(Extents, ClosedMultilinesTurnAtTheirFirstVertexAsWell)
     const KdGePoint3d& first = lines[1][0];
     EXPECT_NEAR(first.y, 5.0, 1e-9);
     EXPECT_NEAR(first.x, 5.0 + 5.0 * std::sqrt(2.0), 1e-9);
+}
+
+TEST_F(Extents, EndsOfAMultilineAreSlantedByTheStyle)
+{
+    const KdDbObjectId style = addStyle({0.5, -0.5});
+    KdDbMlineStyle* opened = nullptr;
+    ASSERT_EQ(kddbOpenObject(opened, style, KdDb::kForWrite), eOk);
+    opened->edit().startAngle = std::numbers::pi / 4.0;
+    opened->edit().endAngle = std::numbers::pi * 3.0 / 4.0;
+    opened->close();
+    const auto lines = addMline(style, KdDbMline::kZero)->elementLines();
+    // The first segment runs along x, the last one along y; the lines are 5 beside them.
+    EXPECT_NEAR(lines[0].front().x, 5.0, 1e-9);
+    EXPECT_NEAR(lines[1].front().x, -5.0, 1e-9);
+    EXPECT_NEAR(lines[0].back().y, 95.0, 1e-9);
+    EXPECT_NEAR(lines[1].back().y, 105.0, 1e-9);
 }
 
 TEST(SubDMesh, HasEachEdgeOfItsFacesOnce)

@@ -88,6 +88,48 @@ TEST(Mline, HasTheFlagsOfItsCapsRead)
     EXPECT_EQ(capsOf("9"), std::pair(false, true));
 }
 
+TEST(Mline, HasItsGapsRead)
+{
+    const ReadDrawing drawn =
+        read({{0, "MLINE"}, {8, "0"},     {11, "1"}, {21, "2"},   {12, "1"}, {22, "0"},
+              {13, "0"},    {23, "1"},    {74, "2"}, {41, "0.5"}, {41, "0"}, {75, "0"},
+              {74, "4"},    {41, "-0.5"}, {41, "0"}, {41, "3"},   {41, "4"}, {75, "2"},
+              {42, "2.5"},  {42, "3.5"},  {11, "9"}, {21, "2"},   {74, "3"}, {41, "0.5"},
+              {41, "1"},    {41, "2"},    {75, "0"}, {74, "0"},   {75, "0"}});
+    const auto* mline = drawn.entity<KdDbMline>(0);
+    ASSERT_NE(mline, nullptr);
+    EXPECT_TRUE(mline->hasCuts());
+    EXPECT_EQ(mline->lineCut(0, 0), nullptr);
+    ASSERT_NE(mline->lineCut(0, 1), nullptr);
+    EXPECT_THAT(mline->lineCut(0, 1)->places, ElementsAre(0.0, 3.0, 4.0));
+    ASSERT_NE(mline->fillCut(0, 1), nullptr);
+    EXPECT_THAT(mline->fillCut(0, 1)->places, ElementsAre(0.0, 2.5, 3.5));
+    EXPECT_EQ(mline->fillCut(0, 0), nullptr);
+    ASSERT_NE(mline->lineCut(1, 0), nullptr);
+    EXPECT_THAT(mline->lineCut(1, 0)->places, ElementsAre(1.0, 2.0));
+    EXPECT_EQ(mline->lineCut(1, 1), nullptr);
+}
+
+TEST(Mline, BearsGapsWithoutAVertexOrALine)
+{
+    const ReadDrawing drawn = read({{0, "MLINE"},
+                                    {8, "0"},
+                                    {74, "2"},
+                                    {41, "1"},
+                                    {41, "2"},
+                                    {42, "3"},
+                                    {11, "9"},
+                                    {21, "2"},
+                                    {41, "4"},
+                                    {41, "5"},
+                                    {42, "6"}});
+    const auto* mline = drawn.entity<KdDbMline>(0);
+    ASSERT_NE(mline, nullptr);
+    EXPECT_EQ(mline->numVertices(), 1);
+    EXPECT_FALSE(mline->hasCuts());
+    EXPECT_EQ(mline->fillCut(0, 0), nullptr);
+}
+
 TEST(Underlay, HasItsClippedPageRead)
 {
     const ReadDrawing drawn = read({{0, "PDFUNDERLAY"},

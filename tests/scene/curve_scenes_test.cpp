@@ -5,7 +5,6 @@
 #include <entities/ellipse.h>
 #include <entities/face.h>
 #include <entities/mesh.h>
-#include <entities/mline.h>
 #include <entities/polyline.h>
 #include <entities/ray.h>
 #include <entities/spline.h>
@@ -350,30 +349,6 @@ TEST_F(CurveScenes, FaceMeshesLeaveTheirHiddenEdgesOut)
     const auto scene = build();
     EXPECT_THAT(pointsOf(*scene, shapesOf(*scene, mesh)[0]),
                 ElementsAre(IsPoint(0, 0), IsPoint(5, 0), IsPoint(5, 5), IsPoint(0, 0)));
-}
-
-TEST_F(CurveScenes, MultilinesShowTheirElementsAndCaps)
-{
-    auto* style = new KdDbMlineStyle;
-    MlineStyleMembers& members = style->edit();
-    members.offsets = {0.5, -0.5};
-    members.colors = {0xC3000001, 0xC0000000};
-    members.flags = KdDbMlineStyle::kEndSquareCap;
-    drawing.addObject(style, {});
-    const auto* mline = add<KdDbMline>([&](MlineMembers& line) {
-        line.style = style->objectId();
-        line.scale = 2.0;
-        line.vertices = {{0, 0, 0}, {10, 0, 0}, {10, 10, 0}};
-        line.justification = KdDbMline::kZero;
-    });
-    const auto scene = build();
-    const auto shapes = shapesOf(*scene, mline);
-    ASSERT_THAT(shapes, SizeIs(3));
-    EXPECT_THAT(pointsOf(*scene, shapes[0]),
-                ElementsAre(IsPoint(0, 1), IsPoint(9, 1), IsPoint(9, 10)));
-    EXPECT_EQ(lookOf(*scene, shapes[0]).color, 0xFFFF0000);
-    EXPECT_TRUE(lookOf(*scene, shapes[1]).isForeground);
-    EXPECT_THAT(pointsOf(*scene, shapes[2]), ElementsAre(IsPoint(11, 10), IsPoint(9, 10)));
 }
 
 } // namespace

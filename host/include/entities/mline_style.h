@@ -46,6 +46,9 @@ class KW_EXPORT KdDbMlineStyle : public KdDbObject
         kEndRoundCap = 1024,
     };
     bool has(Flag flag) const { return (data().flags & flag) != 0; }
+    /// Of the ends against the path, in radians; a right angle for straight ends.
+    double startAngle() const { return data().startAngle; }
+    double endAngle() const { return data().endAngle; }
     KdCmColor fillColor() const { return KdCmColor(data().fillColor); }
     /// Of a line, counted from 0.
     KdCmColor colorOf(std::size_t line) const;

@@ -31,6 +31,26 @@ KdGePoint2d FlatSegment::center() const
     return {start.x - std::sin(direction) * radius, start.y + std::cos(direction) * radius};
 }
 
+double FlatSegment::length() const
+{
+    return isArc() ? std::abs(signedRadius() * turn()) : start.distanceTo(end);
+}
+
+FlatSegment FlatSegment::part(double from, double to) const
+{
+    const auto pointAt = [this](double share) -> KdGePoint2d {
+        if (share <= 0.0 || share >= 1.0)
+            return share <= 0.0 ? start : end;
+        if (!isArc())
+            return {start.x + (end.x - start.x) * share, start.y + (end.y - start.y) * share};
+        const double direction = startDirection() + turn() * share;
+        const KdGePoint2d middle = center();
+        return {middle.x + std::sin(direction) * signedRadius(),
+                middle.y - std::cos(direction) * signedRadius()};
+    };
+    return {pointAt(from), pointAt(to), std::tan(turn() * (to - from) / 4.0)};
+}
+
 void addSegment(ScenePath& path, const FlatFrame& frame, const FlatSegment& segment)
 {
     if (!segment.isArc())

@@ -41,6 +41,9 @@ struct FlatSegment
     double signedRadius() const;
     /// Must be an arc.
     KdGePoint2d center() const;
+    double length() const;
+    /// From one part of its length, counted from 0 to 1, to another one.
+    FlatSegment part(double from, double to) const;
 };
 
 /// Goes on along the segment from its start, where the path must be.

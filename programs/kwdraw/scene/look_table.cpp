@@ -180,3 +180,9 @@ void LookTable::setLinetype(SceneLook& look, KdDbObjectId linetype, std::uint32_
     if (look.linetype < 0 || !(look.linetypeScale > 0.0)) // so that looks without breaks are equal
         look.linetypeScale = 1.0;
 }
+
+const SceneLinetype* LookTable::dashesOf(const SceneLook& look) const
+{
+    return look.linetype >= 0 ? &m_scene.linetypes[static_cast<std::size_t>(look.linetype)]
+                              : nullptr;
+}

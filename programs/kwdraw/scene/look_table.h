@@ -35,6 +35,9 @@ class LookTable
     void setLinetype(SceneLook& look, KdDbObjectId linetype, std::uint32_t layer,
                      const SceneLook& byBlock) const;
 
+    /// The dashes of a look; null if its lines are without breaks.
+    const SceneLinetype* dashesOf(const SceneLook& look) const;
+
   private:
     void addLinetypes(const KdDbDatabase& database);
     void addLayers(const KdDbDatabase& database);

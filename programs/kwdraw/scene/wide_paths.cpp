@@ -5,25 +5,9 @@
 #include <numbers>
 
 #include <kwdraw/scene/curve_paths.h>
+#include <kwdraw/scene/wide_dashes.h>
 
 namespace {
-
-/// A segment with its width, and how its ends are cut so that it meets its neighbours.
-struct WideSegment
-{
-    FlatSegment line;
-    double startWidth = 0.0;
-    double endWidth = 0.0;
-    KdGeVector2d startCut; ///< from the middle to the left edge, for half a width of 1
-    KdGeVector2d endCut;
-
-    bool isWide() const { return startWidth > 0.0 || endWidth > 0.0; }
-};
-
-KdGeVector2d leftOf(double direction)
-{
-    return {-std::sin(direction), std::cos(direction)};
-}
 
 KdGePoint2d moved(const KdGePoint2d& point, const KdGeVector2d& vector, double factor)
 {
@@ -149,7 +133,8 @@ void addLines(ScenePath& path, const std::vector<WideSegment>& segments, const F
     }
 }
 
-void fillWideSegments(const std::vector<WideSegment>& segments, const FlatFrame& frame,
+/// @param apart  true if the segments do not go on into each other
+void fillWideSegments(const std::vector<WideSegment>& segments, const FlatFrame& frame, bool apart,
                       EntityWalk& walk)
 {
     // The middle line is seen where the width is less than a pixel.
@@ -159,18 +144,36 @@ void fillWideSegments(const std::vector<WideSegment>& segments, const FlatFrame&
     thin.linetypeScale = 1.0;
     walk.setPartLook(thin);
     ScenePath& middle = walk.newPath();
-    addLines(middle, segments, frame, true, false);
+    addLines(middle, segments, frame, true, apart);
     walk.writer().stroke(middle);
     for (const WideSegment& segment : segments) {
         if (!segment.isWide())
             continue;
         ScenePath& outline = walk.newPath();
         addOutline(outline, segment, frame);
-        if (walk.settings().fillsAreas)
+        if (walk.settings().fillsAreas && !segment.isDot())
             walk.writer().fill(outline);
         else
             walk.writer().stroke(outline);
     }
+}
+
+/// Fills the dashes of the linetype, or all where there are none or far too many.
+void fillDashes(const std::vector<WideSegment>& segments, const FlatFrame& frame, bool runsOn,
+                EntityWalk& walk)
+{
+    constexpr std::size_t kMostDashes = 20'000;
+    constexpr std::size_t kPointsOfDash = 8;
+    const SceneLook& look = walk.entityLook();
+    const SceneLinetype* linetype = walk.looks().dashesOf(look);
+    if (!linetype)
+        return fillWideSegments(segments, frame, false, walk);
+    const std::size_t most = std::min(kMostDashes, walk.pointsLeft() / kPointsOfDash);
+    const auto dashes = dashesAlong(segments, {linetype->dashes, look.linetypeScale, runsOn}, most);
+    if (dashes)
+        fillWideSegments(*dashes, frame, true, walk);
+    else
+        fillWideSegments(segments, frame, false, walk);
 }
 
 } // namespace
@@ -192,6 +195,6 @@ void drawFlatPolyline(const FlatPolyline& polyline, const FlatFrame& frame, Enti
     }
     if (hasWide) {
         joinAll(segments, polyline.closed);
-        fillWideSegments(segments, frame, walk);
+        fillDashes(segments, frame, polyline.patternRunsOn, walk);
     }
 }
