@@ -9,26 +9,26 @@
 
 namespace {
 
-/// Memory that the process really occupies, in bytes.
-double residentBytes()
+/// Memory that the process occupies for itself, without pages of files, in bytes.
+double privateBytes()
 {
     malloc_trim(0); // what earlier benchmarks gave back must not hide what this one takes
     long total = 0;
     long resident = 0;
-    std::ifstream("/proc/self/statm") >> total >> resident;
-    return static_cast<double>(resident * sysconf(_SC_PAGESIZE));
+    long ofFiles = 0;
+    std::ifstream("/proc/self/statm") >> total >> resident >> ofFiles;
+    return static_cast<double>((resident - ofFiles) * sysconf(_SC_PAGESIZE));
 }
 
-/// Tells what a loaded drawing occupies beside its file, which the database holds as well.
+/// Tells what a loaded drawing occupies; its file is mapped.
 void reportMemory(benchmark::State& state, long entities, const ReadOptions& options)
 {
-    const double before = residentBytes();
+    const double before = privateBytes();
     const auto database = readSample(state, entities, options);
-    const double taken = residentBytes() - before;
-    const double beside = taken - static_cast<double>(sampleBytes(entities));
+    const double taken = privateBytes() - before;
     state.counters["memory"] =
         benchmark::Counter(taken, benchmark::Counter::kDefaults, benchmark::Counter::OneK::kIs1024);
-    state.counters["bytes_per_entity"] = beside / static_cast<double>(entities);
+    state.counters["bytes_per_entity"] = taken / static_cast<double>(entities);
 }
 
 Measurement load(bool readAllMembers)

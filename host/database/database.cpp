@@ -12,6 +12,11 @@ std::string_view KdDbMemberSource::bytes(SourceRange) const
     return {};
 }
 
+bool KdDbMemberSource::isIntact() const
+{
+    return true;
+}
+
 KdDbDatabase::KdDbDatabase(Content content)
 {
     KdDbObject* const tables[] = {

@@ -64,9 +64,12 @@ KdErrorStatus cancelled(ReadReport& report)
 }
 
 KdErrorStatus open(const std::filesystem::path& file, dxf::DrawingSource& source,
-                   ReadReport& report, const Progress& progress)
+                   ReadReport& report, const ReadOptions& options)
 {
-    KdErrorStatus status = dxf::FileBytes::read(file, source.bytes, report.error, progress);
+    using Keep = dxf::FileBytes::Keep;
+    KdErrorStatus status = dxf::FileBytes::read(
+        file, options.fileWillGo ? Keep::InMemory : Keep::AsItSuits, source.bytes, report.error,
+        partOf(options.progress, 0.0, kFileIsRead));
     if (status == eOk)
         status = dxf::recognise(source.bytes.view(), source.form, report.error);
     report.binary = source.form.binary;
@@ -83,7 +86,7 @@ KdErrorStatus read(const std::filesystem::path& file, std::unique_ptr<KdDbDataba
     dxf::DrawingSource& source = *owned;
     source.findings.tellTo(options.found);
     const Progress& progress = options.progress;
-    const KdErrorStatus status = open(file, source, report, partOf(progress, 0.0, kFileIsRead));
+    const KdErrorStatus status = open(file, source, report, options);
     if (status != eOk)
         return status;
 
@@ -101,6 +104,11 @@ KdErrorStatus read(const std::filesystem::path& file, std::unique_ptr<KdDbDataba
     }
     if (progress && !progress(1.0))
         return cancelled(report);
+    if (!source.bytes.isIntact()) { // asked at last, so that nothing was read after it
+        report = {};
+        report.error = L"The file was changed by another program while it was read.";
+        return eFileAccessError;
+    }
     report.findings = source.findings.kept();
     report.totalFindings = source.findings.total();
     report.complete = !source.findings.loseContent();

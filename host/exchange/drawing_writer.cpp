@@ -145,6 +145,10 @@ KdErrorStatus write(const PreparedSelection& selection, const std::filesystem::p
     if (status != eOk)
         return status;
     SelectionWriter(drawing, selection.places).write(file);
+    if (!drawing.bytes.isIntact()) { // asked when all bytes have been taken
+        error = L"The drawing's file was changed by another program since it was read.";
+        return eFileAccessError;
+    }
     return file.finish(error);
 }
 

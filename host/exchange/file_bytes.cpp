@@ -13,7 +13,6 @@
 #include <unistd.h>
 
 #include "line_splitter.h"
-#include "utf8.h"
 
 namespace dxf {
 namespace {
@@ -36,6 +35,8 @@ class Descriptor
 
     bool isOpen() const { return m_number >= 0; }
     int number() const { return m_number; }
+    /// Somebody else closes it.
+    void release() { m_number = -1; }
 
   private:
     int m_number;
@@ -86,10 +87,10 @@ FileBytes::FileBytes(FileBytes&& other) noexcept
 
 FileBytes& FileBytes::operator=(FileBytes&& other) noexcept
 {
+    std::swap(m_mapped, other.m_mapped);
     std::swap(m_data, other.m_data);
     std::swap(m_size, other.m_size);
     std::swap(m_reserved, other.m_reserved);
-    std::swap(m_asciiSize, other.m_asciiSize);
     std::swap(m_file, other.m_file);
     return *this;
 }
@@ -99,16 +100,35 @@ FileBytes FileBytes::copyOf(std::string_view text)
     FileBytes bytes(text.size());
     std::copy(text.begin(), text.end(), bytes.m_data);
     bytes.m_size = text.size();
-    bytes.m_asciiSize = asciiEnd(text, 0);
     return bytes;
 }
 
-KdErrorStatus FileBytes::read(const std::filesystem::path& file, FileBytes& bytes, KdString& error,
+KdErrorStatus FileBytes::copy(int descriptor, std::size_t wanted, KdString& error,
                               const Progress& progress)
 {
-    // So much stays in the processor's cache until it has been looked at.
-    constexpr std::size_t kMostAtOnce = std::size_t{1} << 18;
-    const Descriptor descriptor(file);
+    constexpr std::size_t kMostAtOnce = std::size_t{1} << 20;
+    while (m_size < wanted) {
+        if (progress && !progress(static_cast<double>(m_size) / static_cast<double>(wanted))) {
+            error = L"Reading was cancelled.";
+            return eUserBreak;
+        }
+        const ssize_t got =
+            ::read(descriptor, m_data + m_size, std::min(wanted - m_size, kMostAtOnce));
+        if (got < 0 && errno == EINTR)
+            continue;
+        if (got < 0)
+            return fail(error, reasonOf(errno));
+        if (got == 0)
+            break;
+        m_size += static_cast<std::size_t>(got);
+    }
+    return eOk;
+}
+
+KdErrorStatus FileBytes::read(const std::filesystem::path& file, Keep keep, FileBytes& bytes,
+                              KdString& error, const Progress& progress)
+{
+    Descriptor descriptor(file);
     if (!descriptor.isOpen())
         return fail(error, reasonOf(errno));
     struct stat status;
@@ -120,26 +140,16 @@ KdErrorStatus FileBytes::read(const std::filesystem::path& file, FileBytes& byte
         return fail(error, L"The file is no regular file.");
     // The size is taken once: a file that grows meanwhile is read up to here, one that shrinks up
     // to its new end.
-    FileBytes result(static_cast<std::size_t>(status.st_size));
-    const std::size_t wanted = static_cast<std::size_t>(status.st_size);
-    while (result.m_size < wanted) {
-        const double done = static_cast<double>(result.m_size) / static_cast<double>(wanted);
-        if (progress && !progress(done)) {
-            error = L"Reading was cancelled.";
-            return eUserBreak;
-        }
-        const ssize_t got = ::read(descriptor.number(), result.m_data + result.m_size,
-                                   std::min(wanted - result.m_size, kMostAtOnce));
-        if (got < 0 && errno == EINTR)
-            continue;
-        if (got < 0)
-            return fail(error, reasonOf(errno));
-        if (got == 0)
-            break;
-        const bool isAsciiSoFar = result.m_asciiSize == result.m_size;
-        result.m_size += static_cast<std::size_t>(got);
-        if (isAsciiSoFar)
-            result.m_asciiSize = asciiEnd(result.view(), result.m_asciiSize);
+    const auto size = static_cast<std::size_t>(status.st_size);
+    FileBytes result;
+    const bool isLarge = keep == Keep::AsItSuits && size >= kMappedFrom;
+    if (isLarge && result.m_mapped.map(descriptor.number(), status, kReadablePastEnd)) {
+        descriptor.release();
+    } else {
+        result = FileBytes(size);
+        const KdErrorStatus copied = result.copy(descriptor.number(), size, error, progress);
+        if (copied != eOk)
+            return copied;
     }
     result.m_file = {status.st_dev, status.st_ino};
     bytes = std::move(result);

@@ -176,8 +176,7 @@ bool holdsUtf8(const DrawingSource& source)
     const std::size_t needed = source.decoder.codePage().hasPairs() ? 4 : 1;
     if (source.form.binary) // its numbers are full of such bytes
         return false;
-    const Utf8Evidence evidence =
-        findUtf8(source.form.bytes.substr(std::max(source.form.begin, source.bytes.asciiSize())));
+    const Utf8Evidence evidence = findUtf8(source.form.bytes.substr(source.form.begin));
     return evidence.wellFormed && evidence.characters >= needed;
 }
 

@@ -22,6 +22,7 @@ class MemberSource : public KdDbMemberSource
     }
 
     std::string_view bytes(SourceRange range) const override;
+    bool isIntact() const override { return m_source->bytes.isIntact(); }
     const DrawingSource& drawing() const { return *m_source; }
 
   private:

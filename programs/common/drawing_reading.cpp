@@ -177,6 +177,7 @@ KdErrorStatus readDrawingOrConvert(const fs::path& file, std::unique_ptr<KdDbDat
     if (status != eOk)
         return status;
     ReadOptions rest = options;
+    rest.fileWillGo = true; // with the folder
     if (options.progress) {
         rest.progress = [&options](double fraction) {
             return options.progress(kConversionShare + (1.0 - kConversionShare) * fraction);

@@ -41,6 +41,16 @@ ExitStatus Drawing::open(const std::string& file)
     return status;
 }
 
+bool Drawing::isIntact() const
+{
+    if (m_database->source()->isIntact())
+        return true;
+    std::cerr << "kwselect: " << m_file
+              << ": The file was changed by another program during the search; its answer may be "
+                 "wrong.\n";
+    return false;
+}
+
 void Drawing::note(const ReadFinding& finding)
 {
     constexpr std::size_t kMostTold = 10;

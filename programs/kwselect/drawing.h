@@ -29,6 +29,9 @@ class Drawing
     /// False if some of what stands in the file could not be read. This may come to light only when
     /// an entity is asked about its properties.
     bool isComplete() const { return m_lost == 0; }
+    /// False if another program has changed the file since it was opened, which is told on standard
+    /// error: the answer may be wrong.
+    bool isIntact() const;
     /// Entities of kinds that are not known.
     std::size_t unreadEntities() const { return m_report.unknownEntities; }
     KdDbDatabase& database() { return *m_database; }

@@ -255,8 +255,10 @@ SearchResult searchDrawing(const Plan& plan, const std::string& file, const RowS
         return {kCannotWork, {}};
     }
     SearchResult result = Search(plan, file, sink, drawing, module).run();
+    std::cout.flush();
+    if (!drawing.isIntact())
+        return {kCannotWork, {}};
     if (!drawing.isComplete()) {
-        std::cout.flush();
         drawing.tellDamage();
         if (result.status != kCannotWork)
             result.status = kReadInPart;

@@ -87,17 +87,24 @@ class Drawings(FaultTest):
         self.assertEqual((status, output), (CANNOT_WORK, ""))
         self.assertRegex(errors, rf"^kwselect: {self.drawing}: [^\n]+\.\n$")
 
-    def test_that_shrink_while_they_are_read_are_read_up_to_their_end(self):
-        large_drawing(self.drawing, 40)
-        whole = self.drawing.stat().st_size
+    CHANGED = "The file was changed by another program "
+
+    def test_that_shrink_while_they_are_read_give_the_whole_answer_or_a_message(self):
         for part in (0.9, 0.5, 0.1):
             with self.subTest(part):
+                large_drawing(self.drawing, 40)
+                whole = self.drawing.stat().st_size
                 program = subprocess.Popen([support.program, str(self.drawing), "Line", "--count"],
                                            stdout=subprocess.PIPE, stderr=subprocess.PIPE)
                 os.truncate(self.drawing, int(whole * part))
                 output, errors = program.communicate(timeout=120)
-                self.assertIn(program.returncode, (SELECTED, support.IN_PART), errors)
-                self.assertGreaterEqual(int(output), 800000 * part - 1)
+                if program.returncode == CANNOT_WORK:
+                    self.assertIn(self.CHANGED, errors.decode())
+                elif program.returncode == SELECTED:
+                    self.assertEqual(int(output), 800000, errors)
+                else: # it was cut short before it was opened
+                    self.assertEqual(program.returncode, support.IN_PART, errors)
+                    self.assertGreaterEqual(int(output), 800000 * part - 1)
 
     def test_that_change_while_they_are_read_do_no_harm(self):
         large_drawing(self.drawing, 40)
@@ -111,6 +118,42 @@ class Drawings(FaultTest):
                 file.write(b"\xff" * 1000)
         _, errors = program.communicate(timeout=120)
         self.assertIn(program.returncode, (SELECTED, NOTHING, CANNOT_WORK, support.IN_PART), errors)
+
+    def meddled_with(self, meddle):
+        """Changes a drawing when rows of the answer have been printed and no more find room."""
+        large_drawing(self.drawing, 5)
+        program = subprocess.Popen([support.program, str(self.drawing), "Line", "--columns",
+                                    "Handle,Layer", "--format", "csv"],
+                                   stdout=subprocess.PIPE, stderr=subprocess.PIPE)
+        program.stdout.read(1)
+        meddle()
+        _, errors = program.communicate(timeout=120)
+        return program.returncode, errors.decode()
+
+    def test_that_are_cut_short_during_the_search_are_told(self):
+        status, errors = self.meddled_with(lambda: os.truncate(self.drawing, 100000))
+        self.assertEqual(status, CANNOT_WORK)
+        self.assertEqual(errors.splitlines()[-1],
+                         f"kwselect: {self.drawing}: {self.CHANGED}during the search; its answer may "
+                         "be wrong.")
+
+    def test_that_are_overwritten_during_the_search_are_told(self):
+        def meddle():
+            with self.drawing.open("r+b") as file:
+                file.seek(200000)
+                file.write(b"9" * 1000)
+        status, errors = self.meddled_with(meddle)
+        self.assertEqual(status, CANNOT_WORK)
+        self.assertIn(self.CHANGED, errors)
+
+    def test_that_are_replaced_during_the_search_are_searched_as_they_were(self):
+        def meddle():
+            other = self.folder / "other.dxf"
+            other.write_text("nothing")
+            other.replace(self.drawing)
+        status, errors = self.meddled_with(meddle)
+        self.assertEqual(status, SELECTED, errors)
+        self.assertNotIn(self.CHANGED, errors)
 
 
 class Lists(FaultTest):

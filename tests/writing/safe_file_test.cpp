@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include "../exchange/large_drawing.h"
 #include "selection.h"
 
 namespace fs = std::filesystem;
@@ -81,6 +82,24 @@ TEST_F(SavedSelection, NeverReplacesTheFileThatItComesFrom)
         EXPECT_EQ(error, L"A drawing can't be written over the file that it comes from.");
     }
     EXPECT_EQ(contentOf(source), before);
+}
+
+TEST_F(SavedSelection, IsRefusedWhenItsDrawingWasChangedByOthers)
+{
+    std::ofstream(folder / "part.dxf") << "old";
+    const fs::path large = folder / "large.dxf";
+    std::ofstream(large) << largeDrawing();
+    ASSERT_EQ(readDrawing(large, database, report), eOk);
+    for (const KdDbObject* object : database->objects()) {
+        if (object->source().length > 0 && object->isKindOf(KdDbEntity::desc()))
+            chosen = object->objectId();
+    }
+    EXPECT_EQ(write(folder / "whole.dxf"), eOk);
+    fs::resize_file(large, 10000);
+    EXPECT_EQ(write(folder / "part.dxf", true), eFileAccessError);
+    EXPECT_EQ(error, L"The drawing's file was changed by another program since it was read.");
+    EXPECT_EQ(contentOf(folder / "part.dxf"), "old");
+    EXPECT_EQ(folder.entries(), 4u);
 }
 
 TEST_F(SavedSelection, ReplacesWhatALinkPointsToAndNotTheLink)

@@ -22,6 +22,9 @@ class KW_EXPORT KdDbMemberSource
     /// The bytes of a part of the source, as they stand in it, for as long as the database lives;
     /// empty where there are none. Here: always empty.
     virtual std::string_view bytes(SourceRange range) const;
+    /// False once others have changed the source, so that members read since then may be wrong. To
+    /// be asked after reading and before use is made of the outcome. Here: always true.
+    virtual bool isIntact() const;
 };
 
 /// Owns all objects of one drawing. Objects live until the database goes.

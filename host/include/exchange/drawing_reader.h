@@ -15,6 +15,9 @@ struct ReadOptions
     /// Reads the members of all objects at once and not each on first use. The outcome is the same,
     /// except that the report then knows what is wrong inside entities as well.
     bool readAllMembers = false;
+    /// The file will go or change, and nobody need know: it is read into memory whole. Otherwise a
+    /// large file stays where it is, and the drawing reads from it; see `readDrawing`.
+    bool fileWillGo = false;
     /// Called now and then with the part that is done, 0 to 1. Answering false cancels.
     std::function<bool(double fraction)> progress;
     /// Called with each finding as it is met, also with those that only come up when members are
@@ -38,11 +41,15 @@ struct ReadReport
 };
 
 /// Reads a drawing. What can be read of a damaged file is read, the rest stands in the report.
-/// @param file      the file; it is read into memory whole, so it may change or go afterwards
+///
+/// A large file is kept open and read from as long as the drawing lives. It may be replaced or
+/// deleted meanwhile; if another program changes its bytes, nothing crashes, but what is read from
+/// then on may be wrong: `KdDbMemberSource::isIntact` tells. A small file is read whole.
+/// @param file      the file
 /// @param database  receives the drawing, owned by the caller; untouched on failure
 /// @param report    what was read and found; on failure its `error` is a sentence for the user
 /// @return          `eFileAccessError` for a file that is missing, no regular file, unreadable or
-///                  too large for the memory,
+///                  too large for the memory, or that is changed while it is read,
 ///                  `eBadDrawing` for one that is empty or no DXF, `eUserBreak` when cancelled
 KW_EXPORT KdErrorStatus readDrawing(const std::filesystem::path& file,
                                     std::unique_ptr<KdDbDatabase>& database, ReadReport& report,

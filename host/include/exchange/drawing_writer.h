@@ -29,7 +29,8 @@ struct WriteOptions
 /// @param error     a sentence for the user on failure, otherwise untouched
 /// @return          `eInvalidInput` for an entity of another drawing or one that was not read from
 ///                  a file, `eDuplicateKey` for a target that exists, `eFileAccessError` for one
-///                  that can't be written
+///                  that can't be written, or if the drawing's own file was changed by others
+///                  since it was read
 KW_EXPORT KdErrorStatus writeSelection(const KdDbDatabase& database,
                                        std::span<const KdDbObjectId> entities,
                                        const std::filesystem::path& target, KdString& error,
