@@ -4,6 +4,7 @@
 
 #include <editor/command_line.h>
 
+#include <command/dialog_preview.h>
 #include <command/matching.h>
 #include <dialog/qselect_dialog.h>
 
@@ -11,14 +12,15 @@ DialogSource::DialogSource() = default;
 
 DialogSource::~DialogSource() = default;
 
-bool DialogSource::ask(const std::vector<KdDbEntity*>& drawingTypes,
-                       const std::vector<KdDbEntity*>& selectionTypes, FilterChoice& choice)
+bool DialogSource::ask(const Candidates& candidates, FilterChoice& choice)
 {
     if (!qobject_cast<QApplication*>(QCoreApplication::instance())) {
         kdutPrintf(L"\nThe quick-select dialog needs a program with windows.");
         return false;
     }
-    m_dialog = std::make_unique<CQSelectDialog>(drawingTypes, selectionTypes);
+    m_dialog = std::make_unique<CQSelectDialog>(candidates.drawingTypeEntities,
+                                                candidates.selectionTypeEntities);
+    const DialogPreview preview(*m_dialog, candidates);
     constexpr bool kFromStartingSelection = true;
     if (m_dialog->DoModal(kFromStartingSelection) == IDCANCEL)
         return false;

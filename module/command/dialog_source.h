@@ -19,8 +19,7 @@ class DialogSource : public FilterSource
     DialogSource& operator=(const DialogSource&) = delete;
 
     /// In a program without windows it says so on the command line and answers false.
-    bool ask(const std::vector<KdDbEntity*>& drawingTypes,
-             const std::vector<KdDbEntity*>& selectionTypes, FilterChoice& choice) override;
+    bool ask(const Candidates& candidates, FilterChoice& choice) override;
 
     /// What was asked for, in words; none if there are no words for it. Only after an `ask` that
     /// answered true.

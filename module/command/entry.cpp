@@ -1,5 +1,6 @@
 #include <command/entry.h>
 
+#include <command/dialog_preview.h>
 #include <command/gathering.h>
 #include <command/last_request.h>
 #include <command/property_listing.h>
@@ -93,4 +94,15 @@ double QSelectTolerance()
 void QSelectLastRequest(quick_select::RequestVisitor visitor, void* context)
 {
     visitLastRequest(visitor, context);
+}
+
+void QSelectWatchDialog(quick_select::DialogWatcher watcher, void* context)
+{
+    watchDialog(watcher, context);
+}
+
+void QSelectPreview(int milliseconds, quick_select::PreviewVisitor visitor, void* context)
+{
+    const ResourceScope resources;
+    previewDialog(milliseconds, visitor, context);
 }

@@ -37,4 +37,7 @@ KW_EXPORT void QSelectListOperators(int restype, quick_select::OperatorVisitor v
 KW_EXPORT double QSelectTolerance();
 KW_EXPORT void QSelectLastRequest(quick_select::RequestVisitor visitor, void* context);
 KW_EXPORT void QSelectHoldDrawing(bool hold);
+KW_EXPORT void QSelectWatchDialog(quick_select::DialogWatcher watcher, void* context);
+KW_EXPORT void QSelectPreview(int milliseconds, quick_select::PreviewVisitor visitor,
+                              void* context);
 }

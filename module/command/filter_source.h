@@ -3,9 +3,8 @@
 
 #include <vector>
 
+#include <command/gathering.h>
 #include <dialog/filter_record.h>
-
-class KdDbEntity;
 
 /// What a run asks for between gathering and matching.
 struct FilterChoice
@@ -19,8 +18,6 @@ class FilterSource
   public:
     virtual ~FilterSource() = default;
 
-    /// Asks for the filter. The lists hold one entity of each type in the space and in the starting
-    /// selection. False: cancelled, and nothing is to happen.
-    virtual bool ask(const std::vector<KdDbEntity*>& drawingTypes,
-                     const std::vector<KdDbEntity*>& selectionTypes, FilterChoice& choice) = 0;
+    /// Asks for a filter for these candidates. False: cancelled, and nothing is to happen.
+    virtual bool ask(const Candidates& candidates, FilterChoice& choice) = 0;
 };

@@ -17,17 +17,14 @@
 #include <values/text_utilities.h>
 #include <values/value_chain.h>
 
-namespace {
-
 /// Tests candidates one after the other. Nothing changes in the drawing meanwhile, so what holds
 /// for a whole class or layer is found out once.
-class Matcher
+class MatchWalk::Matcher
 {
   public:
     explicit Matcher(const DialogParameters& parameters)
         : m_parameters(parameters),
           m_comparison(parameters.propertyParameters),
-          m_tolerance(CompareDynamicEpsilon(kDefaultTolerance)),
           m_allTypes(isForAllTypes(parameters))
     {
     }
@@ -100,7 +97,6 @@ class Matcher
 
     const DialogParameters& m_parameters;
     const PropertyComparison m_comparison;
-    const ScopedTolerance m_tolerance; ///< the drawing's, so that it is not asked for each time
     const bool m_allTypes;
     DisplayNames m_names;
     ValueChain m_value;
@@ -108,6 +104,17 @@ class Matcher
     ClassMap<Answer> m_ofChosenClass;
     ClassMap<Answer> m_isBlockReference;
 };
+
+namespace {
+
+const std::vector<KdDbEntity*>& walkedBy(const Candidates& candidates,
+                                         const std::vector<KdDbEntity*>& picked,
+                                         const DialogParameters& parameters)
+{
+    if (parameters.entireDrawing)
+        return candidates.allEntities;
+    return parameters.selectionSource == -1 ? candidates.selectionEntities : picked;
+}
 
 /// A viewport that is off does not show what would be selected; one that is clipped by an entity
 /// takes that entity along.
@@ -131,26 +138,48 @@ bool isForAllTypes(const DialogParameters& parameters)
     return equalLowered(parameters.objectTypeName, static_cast<const wchar_t*>(allTypes));
 }
 
+MatchWalk::MatchWalk(const Candidates& candidates, const std::vector<KdDbEntity*>& picked,
+                     const DialogParameters& parameters)
+    : m_walked(walkedBy(candidates, picked, parameters)),
+      m_matcher(std::make_unique<Matcher>(parameters))
+{
+}
+
+MatchWalk::~MatchWalk() = default;
+
+MatchWalk::Verdict MatchWalk::next()
+{
+    KdDbEntity* const entity = m_walked[m_next++];
+    if (!entity || m_matcher->isOnFrozenLayer(*entity))
+        return Verdict::PassedOver;
+    if (!m_matcher->isOfType(*entity))
+        return Verdict::NoMatch;
+    KdDbEntityPE* provider = KdDbEntityPE::of(*entity);
+    if (!provider)
+        return Verdict::NoProvider;
+    return m_matcher->passes(*entity, *provider) ? Verdict::Match : Verdict::NoMatch;
+}
+
+ScopedTolerance toleranceOfRun()
+{
+    return ScopedTolerance(CompareDynamicEpsilon(kDefaultTolerance));
+}
+
 bool matchCandidates(const Candidates& candidates, const std::vector<KdDbEntity*>& picked,
                      const DialogParameters& parameters, Matches& matches)
 {
-    const bool overStart = parameters.selectionSource == -1;
-    const std::vector<KdDbEntity*>& walked = parameters.entireDrawing ? candidates.allEntities
-                                             : overStart              ? candidates.selectionEntities
-                                                                      : picked;
-    Matcher matcher(parameters);
-    for (KdDbEntity* entity : walked) {
-        if (!entity || matcher.isOnFrozenLayer(*entity))
+    const ScopedTolerance tolerance = toleranceOfRun();
+    MatchWalk walk(candidates, picked, parameters);
+    while (!walk.isDone()) {
+        const MatchWalk::Verdict verdict = walk.next();
+        if (verdict == MatchWalk::Verdict::PassedOver)
             continue;
         if (!parameters.entireDrawing)
-            matches.keptSet.add(*entity);
-        if (!matcher.isOfType(*entity))
-            continue;
-        KdDbEntityPE* provider = KdDbEntityPE::of(*entity);
-        if (!provider)
+            matches.keptSet.add(*walk.entity());
+        if (verdict == MatchWalk::Verdict::NoProvider)
             return false;
-        if (matcher.passes(*entity, *provider))
-            addMatch(*entity, matches);
+        if (verdict == MatchWalk::Verdict::Match)
+            addMatch(*walk.entity(), matches);
     }
     return true;
 }

@@ -42,8 +42,7 @@ class GivenFilter : public FilterSource
         m_parameters.propertyParameters.valueType = value.valueType;
     }
 
-    bool ask(const std::vector<KdDbEntity*>&, const std::vector<KdDbEntity*>&,
-             FilterChoice& choice) override
+    bool ask(const Candidates&, FilterChoice& choice) override
     {
         choice.parameters = &m_parameters;
         return true;

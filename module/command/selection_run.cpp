@@ -27,7 +27,7 @@ RunEnd runSelection(const long* ss, FilterSource& source, int& matchCount)
     rememberColorOfStart(candidates);
 
     FilterChoice choice;
-    if (!source.ask(candidates.drawingTypeEntities, candidates.selectionTypeEntities, choice))
+    if (!source.ask(candidates, choice))
         return RunEnd::Cancelled;
 
     Matches matches;

@@ -68,6 +68,7 @@ bool CQSelectDialog::OnInitDialog()
     FillApplyToCombo();
     InitCurPropertiesFromRegistry();
     SetToolTip();
+    OnFilterChanged();
     return initialised;
 }
 
@@ -125,6 +126,7 @@ void CQSelectDialog::bindComboBox(CKdUiMRUComboBox* control, QComboBox* widget, 
     widget->setEditable(false);
     control->setWidget(widget);
     connect(widget, SIGNAL(currentIndexChanged(int)), SLOT(OnComboBoxCurrentChanged(int)));
+    connect(widget, SIGNAL(currentIndexChanged(int)), SLOT(OnFilterChanged()));
 }
 
 void CQSelectDialog::makeDefaultCombo(const tagRECT& rect)
@@ -137,6 +139,7 @@ void CQSelectDialog::makeDefaultCombo(const tagRECT& rect)
     widget->setStyleSheet(kScrollingList);
     widget->setMaxVisibleItems(kRowsOfValues);
     connect(widget, SIGNAL(currentIndexChanged(int)), SLOT(OnDefaultComboChange()));
+    connect(widget, SIGNAL(currentIndexChanged(int)), SLOT(OnFilterChanged()));
     m_valueCombo.setWidget(widget);
     m_valueCombo.Create(kDefaultComboStyle, rect, this, kDefaultComboId);
     m_valueCombo.ShowWindow(SW_HIDE);

@@ -120,24 +120,23 @@ KdString rowText(const CComboBox& combo)
 void CQSelectDialog::OnOK()
 {
     gComboValues.clear();
-    ResBuf::relRb(m_parameters.filter);
-    m_filterTail = nullptr;
-    m_parameters.propertyParameters = {};
-    m_typedValue = TypedValue{};
-    if (!control<CComboBox>(kApplyTo) || !control<CComboBox>(kObjectType))
+    if (!read(m_asked)) {
+        if (m_asked.refusal)
+            refuse(*m_asked.refusal);
         return;
-    readFlags();
-    const auto* properties = control<CListBox>(kProperties);
-    const int row = properties ? properties->GetCurSel() : -1;
-    readProperty(row);
-    if (!control<CComboBox>(kOperator) || !control<CEdit>(kValueEdit))
-        return;
-    if (row >= 0 && control<CComboBox>(kObjectType)->GetCurSel() >= 0 && !readFilter())
-        return;
+    }
     keepCustomColors();
     writeShowListValues();
     writeCurPropertiesToRegistry();
     CKdUiDialog::OnOK();
+}
+
+bool CQSelectDialog::peek(Asked& asked)
+{
+    const QWidget* ok = getWidgetsFromOrignal(kOk, 0);
+    asked.parameters.selectionSource = m_asked.parameters.selectionSource;
+    asked.refusal.reset();
+    return ok && ok->isEnabled() && read(asked);
 }
 
 void CQSelectDialog::OnCancel()
@@ -149,45 +148,65 @@ void CQSelectDialog::OnCancel()
     CKdUiDialog::OnCancel();
 }
 
-void CQSelectDialog::readFlags()
+/// False if a control is missing or the user's text was refused.
+bool CQSelectDialog::read(Asked& asked)
 {
-    const auto* types = control<CComboBox>(kObjectType);
-    m_parameters.include = IsDlgButtonChecked(kInclude) == BST_CHECKED;
-    m_parameters.append = IsDlgButtonChecked(kAppend) == BST_CHECKED;
-    m_parameters.entireDrawing = kEntireDrawing.matches(KdString(textOf(kApplyTo).c_str()));
-    m_parameters.objectTypeName = textOf(kObjectType);
-    const auto* className =
-        static_cast<const CStdStr<wchar_t>*>(types->GetItemDataPtr(types->GetCurSel()));
-    m_parameters.objectClassName = className ? *className : CStdStr<wchar_t>();
+    ResBuf::relRb(asked.parameters.filter);
+    asked.filterTail = nullptr;
+    asked.parameters.propertyParameters = {};
+    asked.typedValue = TypedValue{};
+    asked.refusal.reset();
+    if (!control<CComboBox>(kApplyTo) || !control<CComboBox>(kObjectType))
+        return false;
+    readFlags(asked.parameters);
+    const auto* properties = control<CListBox>(kProperties);
+    const int row = properties ? properties->GetCurSel() : -1;
+    readProperty(row, asked.parameters);
+    if (!control<CComboBox>(kOperator) || !control<CEdit>(kValueEdit))
+        return false;
+    return row < 0 || control<CComboBox>(kObjectType)->GetCurSel() < 0 || readFilter(asked);
 }
 
-void CQSelectDialog::readProperty(int row)
+void CQSelectDialog::readFlags(DialogParameters& parameters) const
 {
-    const KdArray<KdString> keys = TypeKeys[m_parameters.objectTypeName];
+    const auto* types = control<CComboBox>(kObjectType);
+    parameters.include = IsDlgButtonChecked(kInclude) == BST_CHECKED;
+    parameters.append = IsDlgButtonChecked(kAppend) == BST_CHECKED;
+    parameters.entireDrawing = kEntireDrawing.matches(KdString(textOf(kApplyTo).c_str()));
+    parameters.objectTypeName = textOf(kObjectType);
+    const auto* className =
+        static_cast<const CStdStr<wchar_t>*>(types->GetItemDataPtr(types->GetCurSel()));
+    parameters.objectClassName = className ? *className : CStdStr<wchar_t>();
+}
+
+void CQSelectDialog::readProperty(int row, DialogParameters& parameters)
+{
+    const KdArray<KdString> keys = TypeKeys[parameters.objectTypeName];
     if (row < 0 || row >= keys.length())
         return;
-    PropertyParameters& property = m_parameters.propertyParameters;
+    PropertyParameters& property = parameters.propertyParameters;
     property.propertyKey = keys[row];
     property.axis = cutAxis(property.propertyKey);
 }
 
 /// Builds the filter as far as there is one to build; false if the user's text was refused.
-bool CQSelectDialog::readFilter()
+bool CQSelectDialog::readFilter(Asked& asked)
 {
     const std::optional<Operators> op = currentOperator();
     const Value* value = currentValue();
-    m_typedValue->kind = value ? value->type : ResBuf::kNone;
+    asked.typedValue->kind = value ? value->type : ResBuf::kNone;
     if (!op || *op == Operators::SelectAll)
         return true;
-    m_typedValue.reset();
-    m_parameters.propertyParameters.operatorText = operatorText(*op);
+    asked.typedValue.reset();
+    asked.parameters.propertyParameters.operatorText = operatorText(*op);
     const bool isListed =
-        PropertyKeys.contains(compositeKey(m_parameters.objectTypeName, currentProperty()));
-    return !value || !isListed || readValue(*value, *op);
+        PropertyKeys.contains(compositeKey(asked.parameters.objectTypeName, currentProperty()));
+    return !value || !isListed || readValue(*value, *op, asked);
 }
 
-bool CQSelectDialog::readValue(const Value& value, Operators op)
+bool CQSelectDialog::readValue(const Value& value, Operators op, Asked& asked)
 {
+    PropertyParameters& property = asked.parameters.propertyParameters;
     FilterValue filter;
     std::optional<KdString> text;
     if (value.type == ResBuf::kColor) {
@@ -196,24 +215,22 @@ bool CQSelectDialog::readValue(const Value& value, Operators op)
     } else {
         text = valueText(value, op);
         if (text)
-            filter = readFilterValue(value.type, m_parameters.propertyParameters.axis, *text);
-        if (!text || (filter.text == FilterText::Empty && needsText(value.type))) {
-            refuse(78042, L"Invalid value");
-            return false;
-        }
+            filter = readFilterValue(value.type, property.axis, *text);
+        if (!text || (filter.text == FilterText::Empty && needsText(value.type)))
+            asked.refusal = ResourceText{78042, L"Invalid value"};
     }
-    if (filter.text == FilterText::NotANumber) {
-        refuse(78043, L"Not a numeric value");
+    if (!asked.refusal && filter.text == FilterText::NotANumber)
+        asked.refusal = ResourceText{78043, L"Not a numeric value"};
+    if (asked.refusal)
         return false;
-    }
     // What can't be read counts as the value that its reader falls back on.
     if (filter.text == FilterText::Unreadable)
         text = fallbackText(value.type);
     if (filter.record) {
         if (text)
-            m_typedValue = TypedValue{value.type, *text};
-        AddFilter(filter.record);
-        m_parameters.propertyParameters.valueType = filter.valueType;
+            asked.typedValue = TypedValue{value.type, *text};
+        asked.AddFilter(filter.record);
+        property.valueType = filter.valueType;
     }
     return true;
 }
@@ -255,19 +272,19 @@ KdString CQSelectDialog::GetStringValue(bool useCombo, CEdit* edit, CComboBox* c
     return KdString(buffer);
 }
 
-void CQSelectDialog::AddFilter(ResBuf* record)
+void CQSelectDialog::Asked::AddFilter(ResBuf* record)
 {
-    if (!m_parameters.filter) {
-        m_parameters.filter = record;
-        m_filterTail = record;
+    if (!parameters.filter) {
+        parameters.filter = record;
+        filterTail = record;
         return;
     }
-    m_filterTail = m_filterTail->setNext(record);
+    filterTail = filterTail->setNext(record);
 }
 
-void CQSelectDialog::refuse(int id, const wchar_t* defaultText)
+void CQSelectDialog::refuse(const ResourceText& text)
 {
-    MessageBoxW(kdsw_kdadMainWnd(), __ResourceString(id, defaultText), GetOemProductName(), 0);
+    MessageBoxW(kdsw_kdadMainWnd(), text.text().kwszPtr(), GetOemProductName(), 0);
 }
 
 /// The custom rows of the colour combo, from the last one, are kept for the next run.

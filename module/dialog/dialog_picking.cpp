@@ -14,7 +14,7 @@ void CQSelectDialog::OnSelectEntities()
 void CQSelectDialog::DoSelectEntities()
 {
     constexpr int kPickedInDialog = 0;
-    m_parameters.selectionSource = kPickedInDialog;
+    m_asked.parameters.selectionSource = kPickedInDialog;
     BeginEditorCommand();
     kdedSSSetFirst(nullptr, nullptr);
     {
@@ -26,6 +26,7 @@ void CQSelectDialog::DoSelectEntities()
     for (KdDbEntity* entity : m_pickedEntities)
         AddNewTypeProperties(GetLocalNameOfKdDbEntity(entity), entity);
     FillApplyToCombo();
+    OnFilterChanged();
 }
 
 void CQSelectDialog::takePicked(const long* set)

@@ -34,6 +34,15 @@ const Connection kConnections[] = {
     {kHelp,           SIGNAL(clicked()),                    SLOT(OnHelp())},
     {kCancel,         SIGNAL(clicked()),                    SLOT(OnCancel())},
     {kOk,             SIGNAL(clicked()),                    SLOT(OnOK())},
+    // Behind the others, so that the links that follow are filled by then.
+    {kApplyTo,        SIGNAL(currentIndexChanged(int)),     SLOT(OnFilterChanged())},
+    {kObjectType,     SIGNAL(currentIndexChanged(int)),     SLOT(OnFilterChanged())},
+    {kProperties,     SIGNAL(itemSelectionChanged()),       SLOT(OnFilterChanged())},
+    {kOperator,       SIGNAL(currentIndexChanged(int)),     SLOT(OnFilterChanged())},
+    {kValueEdit,      SIGNAL(valueChanged(const QString&)), SLOT(OnFilterChanged())},
+    {kInclude,        SIGNAL(clicked()),                    SLOT(OnFilterChanged())},
+    {kExclude,        SIGNAL(clicked()),                    SLOT(OnFilterChanged())},
+    {kAppend,         SIGNAL(clicked()),                    SLOT(OnFilterChanged())},
 };
 // clang-format on
 
@@ -60,18 +69,18 @@ CQSelectDialog::CQSelectDialog(const std::vector<KdDbEntity*>& drawing,
 
 CQSelectDialog::~CQSelectDialog()
 {
-    ResBuf::relRb(m_parameters.filter);
     delete g_pstrMulti;
     g_pstrMulti = nullptr;
 }
 
 void CQSelectDialog::InitData()
 {
-    m_parameters.include = true;
-    m_parameters.entireDrawing = true;
-    m_parameters.append = false;
-    m_parameters.filter = nullptr;
-    m_parameters.objectTypeName = static_cast<const wchar_t*>(__ResourceString(78023, L"Multiple"));
+    DialogParameters& parameters = m_asked.parameters;
+    parameters.include = true;
+    parameters.entireDrawing = true;
+    parameters.append = false;
+    parameters.filter = nullptr;
+    parameters.objectTypeName = static_cast<const wchar_t*>(__ResourceString(78023, L"Multiple"));
     TypeCatalog::InitData();
 }
 
@@ -97,7 +106,7 @@ void CQSelectDialog::enterTypes(const std::vector<KdDbEntity*>& entities,
 int CQSelectDialog::DoModal(bool resetSource)
 {
     if (resetSource)
-        m_parameters.selectionSource = -1;
+        m_asked.parameters.selectionSource = -1;
     return CKdUiDialog::DoModal();
 }
 
@@ -115,6 +124,12 @@ bool CQSelectDialog::PreTranslateMessage(tagMSG* message)
 void CQSelectDialog::OnHelp()
 {
     KWCMDHELP::KdadHelp(L"QSELECT_DIA");
+}
+
+void CQSelectDialog::OnFilterChanged()
+{
+    if (m_watcher)
+        m_watcher();
 }
 
 CStdStr<wchar_t> CQSelectDialog::textOf(const char* name) const

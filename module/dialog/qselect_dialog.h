@@ -1,6 +1,7 @@
 /// The dialog that asks for the filter of a run.
 #pragma once
 
+#include <functional>
 #include <optional>
 
 #include <ui/dialog.h>
@@ -10,6 +11,7 @@
 #include <dialog/filter_record.h>
 #include <dialog/list_controls.h>
 #include <dialog/type_catalog.h>
+#include <providers/property_row.h>
 
 class QComboBox;
 
@@ -35,8 +37,11 @@ class CQSelectDialog : public CKdUiDialog, public TypeCatalog
     int DoModal(bool resetSource);
 
     /// What was asked for; lives as long as the dialog.
-    const DialogParameters* GetDialogParameters() const { return &m_parameters; }
-    PropertyParameters GetPropertyParameter() const { return m_parameters.propertyParameters; }
+    const DialogParameters* GetDialogParameters() const { return &m_asked.parameters; }
+    PropertyParameters GetPropertyParameter() const
+    {
+        return m_asked.parameters.propertyParameters;
+    }
     /// The value that was asked for as a text of its kind, from which the same filter can be read.
     struct TypedValue
     {
@@ -44,7 +49,29 @@ class CQSelectDialog : public CKdUiDialog, public TypeCatalog
         KdString text;
     };
     /// Empty if all values are asked for; none if no text gives the same filter.
-    const std::optional<TypedValue>& typedValue() const { return m_typedValue; }
+    const std::optional<TypedValue>& typedValue() const { return m_asked.typedValue; }
+
+    /// A filter as the controls tell it. Owns its records.
+    struct Asked
+    {
+        Asked() = default;
+        ~Asked() { ResBuf::relRb(parameters.filter); }
+        Asked(const Asked&) = delete;
+        Asked& operator=(const Asked&) = delete;
+
+        void AddFilter(ResBuf* record);
+
+        DialogParameters parameters;
+        ResBuf* filterTail = nullptr;
+        std::optional<TypedValue> typedValue;
+        std::optional<ResourceText> refusal; ///< what the user is told of a value that is none
+    };
+    /// Reads the filter as it stands, as `OnOK` would, but tells nobody and keeps nothing. False if
+    /// `OnOK` can't be asked for or would go no further.
+    bool peek(Asked& asked);
+    /// Is told of each change of the filter while the dialog shows. Empty: nobody is.
+    void setWatcher(std::function<void()> watcher) { m_watcher = std::move(watcher); }
+
     /// What was picked, otherwise the second list of the constructor.
     const std::vector<KdDbEntity*>& pickedEntities() const { return m_pickedEntities; }
 
@@ -67,6 +94,7 @@ class CQSelectDialog : public CKdUiDialog, public TypeCatalog
     void OnCancel() override;
     void OnComboBoxCurrentChanged(int row);
     void OnDefaultComboChange();
+    void OnFilterChanged();
 
   private:
     void InitData();
@@ -103,14 +131,14 @@ class CQSelectDialog : public CKdUiDialog, public TypeCatalog
     bool fillFromDrawing(const std::wstring& typeName, const std::wstring& shortName);
 
     // the outcome, in dialog_outcome.cpp
-    void AddFilter(ResBuf* record);
+    bool read(Asked& asked);
     KdString GetStringValue(bool useCombo, CEdit* edit, CComboBox* combo) const;
-    void readFlags();
-    void readProperty(int row);
-    bool readFilter();
-    bool readValue(const Value& value, Operators op);
+    void readFlags(DialogParameters& parameters) const;
+    void readProperty(int row, DialogParameters& parameters);
+    bool readFilter(Asked& asked);
+    bool readValue(const Value& value, Operators op, Asked& asked);
     std::optional<KdString> valueText(const Value& value, Operators op);
-    void refuse(int id, const wchar_t* defaultText);
+    void refuse(const ResourceText& text);
     void keepCustomColors();
     void writeShowListValues();
 
@@ -144,7 +172,6 @@ class CQSelectDialog : public CKdUiDialog, public TypeCatalog
     bool m_restoreColor = false; ///< `m_colorIndex` counts at the next showing of colours
     bool m_showListValues = false;
 
-    DialogParameters m_parameters;
-    ResBuf* m_filterTail = nullptr;
-    std::optional<TypedValue> m_typedValue;
+    Asked m_asked;
+    std::function<void()> m_watcher;
 };

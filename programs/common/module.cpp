@@ -36,7 +36,8 @@ bool Module::findAll()
            find("QSelectListTypes", listTypes) && find("QSelectListEntities", listEntities) &&
            find("QSelectListProperties", listProperties) &&
            find("QSelectListOperators", listOperators) && find("QSelectTolerance", tolerance) &&
-           find("QSelectLastRequest", lastRequest) && find("QSelectHoldDrawing", holdDrawing);
+           find("QSelectLastRequest", lastRequest) && find("QSelectHoldDrawing", holdDrawing) &&
+           find("QSelectWatchDialog", watchDialog) && find("QSelectPreview", preview);
 }
 
 void Module::unload()

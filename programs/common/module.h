@@ -29,6 +29,8 @@ class Module
     quick_select::QSelectToleranceFunction* tolerance = nullptr;
     quick_select::QSelectLastRequestFunction* lastRequest = nullptr;
     quick_select::QSelectHoldDrawingFunction* holdDrawing = nullptr;
+    quick_select::QSelectWatchDialogFunction* watchDialog = nullptr;
+    quick_select::QSelectPreviewFunction* preview = nullptr;
 
   private:
     template <class Function>

@@ -3,6 +3,7 @@
 #include <editor/system_variables.h>
 
 #include <command/entry.h>
+#include <command/filter_preview.h>
 #include <command/selection_run.h>
 #include <values/globals.h>
 
@@ -91,11 +92,13 @@ MadeFilter& MadeFilter::cancelling()
     return *this;
 }
 
-bool MadeFilter::ask(const Entities& drawing, const Entities& selection, FilterChoice& choice)
+bool MadeFilter::ask(const Candidates& candidates, FilterChoice& choice)
 {
     ++asked;
-    drawingTypes = drawing;
-    selectionTypes = selection;
+    drawingTypes = candidates.drawingTypeEntities;
+    selectionTypes = candidates.selectionTypeEntities;
+    if (whenAsked)
+        whenAsked(candidates);
     choice = {&parameters, picked};
     return !m_cancels;
 }
@@ -199,7 +202,24 @@ Ids CommandTest::selection()
 int CommandTest::run(MadeFilter& filter, long* ss)
 {
     int told = -1;
-    return runSelection(ss, filter, told) == RunEnd::Done ? told : -1;
+    int foreseen = -1;
+    Ids ids;
+    filter.whenAsked = [&](const Candidates& candidates) {
+        FilterPreview preview(candidates, filter.picked, filter.parameters);
+        while (!preview.isDone())
+            preview.goOn(std::chrono::milliseconds(0));
+        foreseen = preview.isAbandoned() ? -1 : preview.matches();
+        ids = preview.ids();
+    };
+    if (runSelection(ss, filter, told) != RunEnd::Done)
+        return -1;
+    if (filter.isForeseen) {
+        EXPECT_EQ(foreseen, told);
+        EXPECT_THAT(selection(), filter.parameters.append
+                                     ? testing::IsSupersetOf(ids)
+                                     : testing::UnorderedElementsAreArray(ids));
+    }
+    return told;
 }
 
 } // namespace command_test

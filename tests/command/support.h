@@ -1,6 +1,7 @@
 /// What the tests of the command share: a drawing to run over, and what a run leaves behind.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -51,13 +52,15 @@ class MadeFilter : public FilterSource
     MadeFilter& append();
     MadeFilter& cancelling();
 
-    bool ask(const Entities& drawing, const Entities& selection, FilterChoice& choice) override;
+    bool ask(const Candidates& candidates, FilterChoice& choice) override;
 
     DialogParameters parameters;
     Entities picked;
     int asked = 0;
     Entities drawingTypes;
     Entities selectionTypes;
+    std::function<void(const Candidates&)> whenAsked;
+    bool isForeseen = true; ///< by a preview
 
   private:
     bool m_cancels = false;
@@ -147,7 +150,8 @@ class CommandTest : public testing::Test
     static void select(const Ids& ids);
     static Ids selection();
 
-    /// One whole run; the number that it tells, or -1 when it did not come to an end.
+    /// One whole run, which a preview is held against; the number that it tells, or -1 when it did
+    /// not come to an end.
     int run(MadeFilter& filter, long* ss = nullptr);
 
     KdDbDatabase drawing;

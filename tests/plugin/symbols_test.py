@@ -24,6 +24,9 @@ EXPORTED = {
     "QSelectHoldDrawing",
     "QSelectTolerance",
     "QSelectLastRequest",
+    # for programs that show what the dialog would select
+    "QSelectWatchDialog",
+    "QSelectPreview",
     # globals
     "gComboValues",
     "theArxDLL",

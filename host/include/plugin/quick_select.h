@@ -96,11 +96,34 @@ struct PastRequest
     bool overPicked;
 };
 
+/// What the dialog that is open would select if it were accepted now. Text and ids live as long as
+/// the visit.
+struct Preview
+{
+    enum class State : int
+    {
+        NoDialog = 0,   ///< no dialog is open
+        Incomplete = 1, ///< the dialog can't be accepted as it stands
+        Counting = 2,   ///< not all candidates have been tested yet
+        Done = 3,
+        Abandoned = 4, ///< as `Outcome::Abandoned`
+    };
+    State state;
+    const wchar_t*
+        reason;  ///< of `Incomplete`: what the dialog would say, if it would say something
+    double part; ///< of the candidates, 0 to 1, that have been tested
+    int matches; ///< so far; in the end what the count line would tell
+    const KdDbObjectId* ids; ///< what the run would find; what it would be added to is not in it
+    std::size_t idCount;
+};
+
 using TypeVisitor = void (*)(void* context, const Type& type);
 using EntityVisitor = void (*)(void* context, const Entity& entity);
 using PropertyVisitor = void (*)(void* context, const Property& property);
 using OperatorVisitor = void (*)(void* context, const wchar_t* operatorText);
 using RequestVisitor = void (*)(void* context, const PastRequest* request);
+using PreviewVisitor = void (*)(void* context, const Preview& preview);
+using DialogWatcher = void (*)(void* context);
 
 // The exported functions. A host declares a pointer of the type and looks the name up.
 
@@ -131,6 +154,14 @@ using QSelectToleranceFunction = double();
 /// the next call, so what the functions above gather from one space is gathered once. Each call
 /// drops what was gathered before. At first nothing is promised.
 using QSelectHoldDrawingFunction = void(bool hold);
+/// "QSelectWatchDialog": the watcher is called when the dialog comes up, after each change that the
+/// user makes to its filter, and when it is gone. It may ask for a preview then or later. Null:
+/// nobody watches any more.
+using QSelectWatchDialogFunction = void(DialogWatcher watcher, void* context);
+/// "QSelectPreview": goes on testing the candidates against the filter that the open dialog shows,
+/// for about so many milliseconds, and tells how far that has come. Begins anew after a change of
+/// the filter. Selects and prints nothing and shows no message.
+using QSelectPreviewFunction = void(int milliseconds, PreviewVisitor visitor, void* context);
 /// "QSelectListOperators": the operators that values of a kind offer, in the dialog's order.
 using QSelectListOperatorsFunction = void(int restype, OperatorVisitor visitor, void* context);
 
