@@ -1,8 +1,15 @@
-#include <database/database.h>
+#include <database/goodbye.h>
 
+#include <cstddef>
 #include <memory>
+#include <new>
+#include <thread>
+#include <vector>
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
+
+#include <database/database.h>
 
 namespace {
 
@@ -59,6 +66,42 @@ TEST(Services, SayGoodbyeWhileTheObjectsStillStand)
     EXPECT_EQ(goodbyes, 1);
     EXPECT_EQ(layerSeen, L"0");
     EXPECT_TRUE(wasWorking);
+}
+
+TEST(Services, SayGoodbyeOnceWhereADrawingGoesInAnotherThread)
+{
+    static const KdDbDatabase* awaited = nullptr;
+    static std::vector<std::thread::id> goodbyes;
+    kddbHostApplicationServices()->addGoodbyeNotice([](KdDbDatabase& database) {
+        if (&database == awaited)
+            goodbyes.push_back(std::this_thread::get_id());
+    });
+    auto database = std::make_unique<KdDbDatabase>();
+    awaited = database.get();
+    kddbHostApplicationServices()->setWorkingDatabase(database.get());
+    kddbSayGoodbye(*database);
+    EXPECT_EQ(kddbHostApplicationServices()->workingDatabase(), nullptr);
+    std::thread([&] { database.reset(); }).join();
+    awaited = nullptr;
+    EXPECT_THAT(goodbyes, testing::ElementsAre(std::this_thread::get_id()));
+}
+
+TEST(Services, SayGoodbyeToADrawingThatTakesThePlaceOfOneThatHasGone)
+{
+    static int goodbyes = 0;
+    static const KdDbDatabase* awaited = nullptr;
+    kddbHostApplicationServices()->addGoodbyeNotice(
+        [](KdDbDatabase& database) { goodbyes += &database == awaited; });
+    alignas(KdDbDatabase) std::byte room[sizeof(KdDbDatabase)];
+    for (int i = 0; i < 2; ++i) {
+        auto* database = new (room) KdDbDatabase;
+        awaited = database;
+        if (i == 0)
+            kddbSayGoodbye(*database);
+        database->~KdDbDatabase();
+    }
+    awaited = nullptr;
+    EXPECT_EQ(goodbyes, 2);
 }
 
 } // namespace
