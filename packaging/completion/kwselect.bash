@@ -47,11 +47,11 @@ _kwselect() {
     -p | --property | --columns | --group-by) _kwselect_offer < <(_kwselect_listed properties) ;;
     -o | --operator) _kwselect_offer < <(_kwselect_listed operators) ;;
     -v | --value) _kwselect_offer < <(_kwselect_listed values) ;;
-    --list) COMPREPLY=($(compgen -W "types properties operators values filters" -- "$current")) ;;
+    --list) COMPREPLY=($(compgen -W "types properties operators values filters recent" -- "$current")) ;;
     --format) COMPREPLY=($(compgen -W "handles table tsv csv json jsonl" -- "$current")) ;;
     --space) COMPREPLY=($(compgen -W "model paper: block: all" -- "$current")) ;;
     --output | --write | --filters) COMPREPLY=($(compgen -f -- "$current")) ;;
-    -f | --filter | --then | --append | --tolerance | --why | -j | --jobs) COMPREPLY=() ;;
+    -f | --filter | --recent | --then | --append | --tolerance | --why | -j | --jobs) COMPREPLY=() ;;
     *)
         if [[ $current == -* ]]; then
             COMPREPLY=($(compgen -W "$(kwselect --help | grep -oE '(^|[ ,])--?[a-z][a-z-]*' | tr -d ' ,' | sort -u)" -- "$current"))

@@ -61,6 +61,10 @@ CommandLineText commandLineFor(std::span<const RunRequest> runs,
         runs = runs.last(1);
     std::vector<std::string> expressions;
     for (const RunRequest& run : runs) {
+        if (!run.expression.empty()) {
+            expressions.push_back(kdToUtf8(run.expression));
+            continue;
+        }
         const auto comparison = comparisonOf(run, catalog);
         if (!comparison)
             return {{}, "No filter that can be typed finds the same in this drawing."};

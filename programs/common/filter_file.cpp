@@ -108,6 +108,15 @@ std::vector<std::size_t> placesOfName(const std::wstring& text, const std::wstri
     return places;
 }
 
+/// The filters that an expression names, the last one first.
+void findNamed(const Expression& expression, std::vector<const Expression*>& named)
+{
+    if (expression.kind == Expression::Kind::Named)
+        named.insert(named.begin(), &expression);
+    for (const Expression& part : expression.parts)
+        findNamed(part, named);
+}
+
 std::string lineOf(const std::wstring& name, const std::wstring& text)
 {
     return kdToUtf8(name) + " = " + kdToUtf8(text);
@@ -274,6 +283,27 @@ bool FilterFile::expand(Expression& expression, std::vector<const Filter*>& open
     const bool done = expand(expression, open, problem);
     open.pop_back();
     return done;
+}
+
+std::wstring FilterFile::expandedText(std::wstring text) const
+{
+    const auto read = readExpression(text);
+    const auto* expression = std::get_if<Expression>(&read);
+    if (!expression)
+        return text;
+    std::vector<const Expression*> named;
+    findNamed(*expression, named);
+    const bool isWhole = expression->kind == Expression::Kind::Named;
+    for (const Expression* each : named) {
+        const Filter* filter = find(each->name);
+        if (!filter)
+            continue;
+        const std::wstring inner = expandedText(filter->text);
+        const std::size_t at = text.rfind(L'@', each->place);
+        text.replace(at, each->place + each->name.size() - at,
+                     isWhole ? inner : L'(' + inner + L')');
+    }
+    return text;
 }
 
 std::filesystem::path userFilterFile()

@@ -49,6 +49,8 @@ class FilterFile
     /// Puts the filters that an expression names in the places of their names, and those that
     /// these name. False: one is unknown or names itself, and `problem` is a sentence.
     bool expand(Expression& expression, std::string& problem) const;
+    /// The same with a text that `expand` takes: it means the same and names no filter.
+    std::wstring expandedText(std::wstring text) const;
 
   private:
     bool expand(Expression& expression, std::vector<const Filter*>& open,

@@ -1,4 +1,4 @@
-#include <kwdraw/panels/recent_filters.h>
+#include <common/recent_filters.h>
 
 #include <algorithm>
 #include <fstream>
@@ -11,17 +11,28 @@
 
 RecentFilters::RecentFilters(std::filesystem::path file) : m_file(std::move(file))
 {
+    readAgain();
+}
+
+bool RecentFilters::readAgain()
+{
     std::ifstream stream(m_file);
-    for (std::string line; m_texts.size() < kMost && std::getline(stream, line);) {
+    if (!stream) // there is none yet, or none can be written: what is known stays
+        return false;
+    std::vector<std::wstring> texts;
+    for (std::string line; texts.size() < kMost && std::getline(stream, line);) {
         if (!line.empty())
-            m_texts.push_back(kdFromUtf8(line));
+            texts.push_back(kdFromUtf8(line));
     }
+    std::swap(m_texts, texts);
+    return m_texts != texts;
 }
 
 void RecentFilters::note(const std::wstring& text)
 {
     if (text.empty() || text.find_first_of(L"\r\n") != std::wstring::npos)
         return;
+    readAgain();
     std::erase(m_texts, text);
     m_texts.insert(m_texts.begin(), text);
     m_texts.resize(std::min(m_texts.size(), kMost));

@@ -9,9 +9,19 @@ void takeRequest(void* context, const quick_select::PastRequest* past)
     if (!past)
         return;
     const quick_select::Request& from = past->request;
-    RunRequest run{from.typeName,  from.className,     from.propertyKey, from.operatorText,
-                   from.valueText, from.axis,          from.kind,        from.exclude,
-                   from.append,    from.fromSelection, past->overPicked, {}};
+    RunRequest run{from.typeName,
+                   from.className,
+                   from.propertyKey,
+                   from.operatorText,
+                   from.valueText,
+                   from.axis,
+                   from.kind,
+                   from.exclude,
+                   from.append,
+                   from.fromSelection,
+                   past->overPicked,
+                   {},
+                   {}};
     if (from.tolerance)
         run.tolerance = *from.tolerance;
     *static_cast<std::optional<RunRequest>*>(context) = std::move(run);
@@ -101,6 +111,12 @@ std::optional<Comparison> comparisonOf(const RunRequest& request, Catalog& catal
             return comparison;
     }
     return std::nullopt;
+}
+
+void RunChain::add(const std::wstring& expression)
+{
+    m_runs.assign(1, {});
+    m_runs.front().expression = expression;
 }
 
 void RunChain::add(const RunRequest& request, std::size_t selected)

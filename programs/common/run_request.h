@@ -23,6 +23,8 @@ struct RunRequest
     bool fromSelection = false;
     bool overPicked = false; ///< over what was picked in the dialog
     std::optional<double> tolerance;
+    /// A whole filter, as it is typed, that was run over the space; nothing else counts then.
+    std::wstring expression;
 
     /// The record for a run; its texts live as long as this object.
     quick_select::Request request() const;
@@ -42,6 +44,9 @@ class RunChain
     /// Notes a run that has come to its end.
     /// @param selected  how many are selected now
     void add(const RunRequest& request, std::size_t selected);
+    /// Notes a filter whose outcome has replaced the selection.
+    /// @param expression  as it is typed, naming no other filter
+    void add(const std::wstring& expression);
     /// The selection has changed in another way.
     void breakOff() { *this = {}; }
 

@@ -7,6 +7,7 @@
 #include <unistd.h>
 
 #include <common/filter_file.h>
+#include <common/recent_filters.h>
 #include <runtime/utf8.h>
 
 #include "audit.h"
@@ -38,6 +39,19 @@ int listFilters(const Options& options)
         writer->row({textCell(kdToUtf8(filter.name)), textCell(kdToUtf8(filter.text))});
     writer->finish();
     return filters.filters().empty() ? kNothingSelected : kSelected;
+}
+
+/// The filters that were run last in kwdraw, as `--recent` counts them.
+int listRecent(const Options& options)
+{
+    const RecentFilters recent(recentFilterFile());
+    const auto writer =
+        makeRowWriter(options.format.value_or(RowFormat::Tabs), {"Number", "Filter"}, std::cout);
+    std::size_t number = 0;
+    for (const std::wstring& text : recent.texts())
+        writer->row({numberCell(++number), textCell(kdToUtf8(text))});
+    writer->finish();
+    return number == 0 ? kNothingSelected : kSelected;
 }
 
 int searchOne(const Plan& plan, const RowSink& sink)
@@ -83,6 +97,8 @@ int run(const Options& options)
 {
     if (options.list == "filters")
         return listFilters(options);
+    if (options.list == "recent")
+        return listRecent(options);
     Plan plan;
     Output output;
     std::string problem;

@@ -101,6 +101,11 @@ class CommandLine
     {
         const auto filter =
             m_app.add_option("-f,--filter", m_options.filter, "The filter, as an option");
+        const auto recent =
+            m_app.add_option("--recent", m_options.recent,
+                             "The filter of that place among those that were run last in kwdraw; "
+                             "1 is the latest");
+        recent->check(CLI::PositiveNumber)->excludes(filter);
         m_type = m_app.add_option("-t,--type", m_options.type,
                                   "Object type; without it all types are searched");
         m_property = m_app.add_option("-p,--property", m_options.property,
@@ -127,12 +132,13 @@ class CommandLine
         const auto space = m_app.add_option("--space", m_options.space,
                                             "Where to search: model (the default), paper:NAME, "
                                             "block:NAME, or all (the model and every sheet)");
-        for (CLI::Option* option : {filter, m_type, m_property, m_op, m_value, m_exclude, m_then,
-                                    m_append, tolerance, file, space})
+        for (CLI::Option* option : {filter, recent, m_type, m_property, m_op, m_value, m_exclude,
+                                    m_then, m_append, tolerance, file, space})
             option->group(kGiving);
         for (CLI::Option* plain : {m_type, m_property, m_op, m_value})
-            plain->excludes(filter);
+            plain->excludes(filter)->excludes(recent);
         name({{filter, "FILTER"},
+              {recent, "NUMBER"},
               {m_type, "TYPE"},
               {m_property, "PROPERTY"},
               {m_op, "OPERATOR"},
@@ -146,12 +152,12 @@ class CommandLine
 
     void declareWork()
     {
-        const auto list =
-            m_app
-                .add_option("--list", m_options.list,
-                            "List types, properties, operators, values or filters "
-                            "instead")
-                ->check(CLI::IsMember({"types", "properties", "operators", "values", "filters"}));
+        const auto list = m_app
+                              .add_option("--list", m_options.list,
+                                          "List types, properties, operators, values, filters or "
+                                          "recent filters instead")
+                              ->check(CLI::IsMember({"types", "properties", "operators", "values",
+                                                     "filters", "recent"}));
         const auto dump = m_app.add_flag("--dump", m_options.dump,
                                          "Print every entity with all its properties instead, one "
                                          "JSON object a line");

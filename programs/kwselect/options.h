@@ -21,7 +21,8 @@ struct Options
 
     std::vector<std::string> arguments; ///< drawings and lists of drawings, and one expression
     std::string filter;                 ///< the expression, where it is given as an option
-    std::string type;                   ///< empty: all types
+    unsigned recent = 0; ///< the filter that was run last but so many, from 1; 0: none
+    std::string type;    ///< empty: all types
     std::string property;
     std::string op; ///< empty: "=" if there is a value, otherwise everything
     std::optional<std::string> value;

@@ -4,6 +4,7 @@
 
 #include <common/entity_columns.h>
 #include <common/filter_file.h>
+#include <common/recent_filters.h>
 #include <runtime/utf8.h>
 
 #include "inputs.h"
@@ -40,11 +41,14 @@ class PlanMaker
 
     bool readSteps(const std::string& argument)
     {
-        const std::string& text = argument.empty() ? m_options.filter : argument;
-        if (!argument.empty() && (!m_options.filter.empty() || m_options.hasPlainFilter()))
+        std::string text = argument.empty() ? m_options.filter : argument;
+        if (!argument.empty() &&
+            (!m_options.filter.empty() || m_options.recent > 0 || m_options.hasPlainFilter()))
             return fail("\"" + argument +
                         "\" and the options are two filters; join them with "
                         "\"and\", or chain them with --then");
+        if (m_options.recent > 0 && !takeRecent(text))
+            return false;
         if (!text.empty()) {
             if (!readStep(SelectionStep::Over::Space, text, m_options.exclude))
                 return false;
@@ -56,6 +60,17 @@ class PlanMaker
             if (!readStep(step.over, step.text, step.exclude))
                 return false;
         }
+        return true;
+    }
+
+    bool takeRecent(std::string& text)
+    {
+        const RecentFilters recent(recentFilterFile());
+        const std::size_t count = recent.texts().size();
+        if (m_options.recent > count)
+            return fail("--recent " + std::to_string(m_options.recent) + ": " +
+                        recent.path().string() + " holds " + std::to_string(count));
+        text = kdToUtf8(recent.texts()[m_options.recent - 1]);
         return true;
     }
 

@@ -69,6 +69,53 @@ TEST(ViewPainter, PaintsWhatIsAskedFor)
     EXPECT_GE(ready, 2); // the index, the picture
 }
 
+struct FineScreen
+{
+    const char* name;
+    double ratio;
+    int pixels; ///< of the picture, that a thin line takes
+};
+
+class ThinLines : public testing::TestWithParam<FineScreen>
+{
+};
+
+TEST_P(ThinLines, AreAsWideAsAPixelOfTheWidget)
+{
+    ViewPainter painter([] {});
+    ViewRequest request = requestFor(oneLine());
+    request.pixelRatio = GetParam().ratio;
+    painter.submit(request);
+    const QImage image = painter.finished().pictures[kDrawing].image;
+    int painted = 0;
+    for (int y = 0; y < image.height(); ++y)
+        painted += image.pixel(image.width() / 2, y) != kDarkGround;
+    EXPECT_EQ(painted, GetParam().pixels);
+}
+
+TEST_P(ThinLines, AreDotsOfThatSizeWhereAShapeIsVerySmall)
+{
+    SceneMaker maker;
+    maker.line({100, 50}, {100.1, 50.1});
+    ViewPainter painter([] {});
+    ViewRequest request = requestFor(maker.finish());
+    request.pixelRatio = GetParam().ratio;
+    painter.submit(request);
+    const QImage image = painter.finished().pictures[kDrawing].image;
+    int painted = 0;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            painted += image.pixel(x, y) != kDarkGround;
+    EXPECT_EQ(painted, GetParam().pixels * GetParam().pixels);
+}
+
+INSTANTIATE_TEST_SUITE_P(Screens, ThinLines,
+                         testing::Values(FineScreen{"usual", 1.0, 1},
+                                         FineScreen{"aLittleFiner", 1.25, 1},
+                                         FineScreen{"finer", 1.5, 2}, FineScreen{"twice", 2.0, 2},
+                                         FineScreen{"threeTimes", 3.0, 3}),
+                         [](const auto& row) { return std::string(row.param.name); });
+
 TEST(ViewPainter, PaintsTheNewestOfManyRequests)
 {
     ViewPainter painter([] {});

@@ -104,4 +104,29 @@ TEST_F(Blocks, AreOpenAgainAfterAReload)
     EXPECT_TRUE(bar("blockBar").isVisible());
 }
 
+TEST_F(Blocks, KeepWhatIsSelectedInThemAfterAReload)
+{
+    openPlan();
+    openFrame();
+    selection().set({entity(0xB2)});
+    press(Qt::Key_F5);
+    waitForWork();
+    EXPECT_THAT(selectedHandles(), testing::ElementsAre(0xB2));
+    EXPECT_EQ(selection().ids().front(), entity(0xB2)) << "of the drawing that is open now";
+    EXPECT_EQ(count(), "1 selected");
+}
+
+TEST_F(Blocks, KeepWhatIsSelectedInThemOverTwoReloadsInARow)
+{
+    openPlan();
+    openFrame();
+    selection().set({entity(0xB1), entity(0xB2)});
+    press(Qt::Key_F5);
+    ASSERT_TRUE(QTest::qWaitFor([this] { return window->document().isBusy(); }));
+    press(Qt::Key_F5);
+    waitForWork();
+    EXPECT_EQ(window->document().openBlockName(), "FRAME");
+    EXPECT_THAT(selectedHandles(), testing::ElementsAre(0xB1, 0xB2));
+}
+
 } // namespace

@@ -5,8 +5,14 @@
 #include <QProgressBar>
 #include <QSignalSpy>
 #include <QTabBar>
+#include <QThreadPool>
 #include <QToolButton>
 #include <QTreeWidget>
+
+#include <thread>
+
+#include <database/database.h>
+#include <editor/selection_sets.h>
 
 using namespace kwdraw_test;
 
@@ -146,6 +152,45 @@ TEST_F(Opening, ReplacesOneDrawingByAnother)
     EXPECT_TRUE(selection().ids().empty());
     EXPECT_FALSE(selection().canUndo());
     EXPECT_EQ(window->windowTitle(), "minimal_r12.dxf - kwdraw");
+}
+
+/// Notes in which thread it goes, and so the drawing that it belongs to.
+class Witness : public KdDbMemberSource
+{
+  public:
+    explicit Witness(std::thread::id& thread) : m_thread(thread) {}
+    ~Witness() override { m_thread = std::this_thread::get_id(); }
+    void readMembers(const KdDbObject&, ObjectMembers&) override {}
+
+  private:
+    std::thread::id& m_thread;
+};
+
+TEST_F(Opening, TakesADrawingApartThatGoesInAnotherThread)
+{
+    std::thread::id end;
+    auto drawing = makeOpenDrawing();
+    drawing->database = std::make_unique<KdDbDatabase>();
+    drawing->spaces = spacesOf(*drawing->database);
+    for (DrawingSpace& space : drawing->spaces)
+        space.scene = std::make_shared<const Scene>();
+    KdDbDatabaseBuilder(*drawing->database).setSource(std::make_unique<Witness>(end));
+    window->document().open(std::move(drawing));
+    openPlan();
+    ASSERT_TRUE(QThreadPool::globalInstance()->waitForDone());
+    EXPECT_NE(end, std::thread::id()) << "it is gone";
+    EXPECT_NE(end, std::this_thread::get_id());
+}
+
+TEST_F(Opening, LeavesNothingSelectedOfADrawingThatGoes)
+{
+    openPlan();
+    press(Qt::Key_A, Qt::ControlModifier);
+    const long sets = kdedSelectionSetsInUse();
+    open(KW_EXAMPLES "/minimal_r12.dxf");
+    EXPECT_LE(kdedSelectionSetsInUse(), sets);
+    kds_name set{};
+    EXPECT_NE(kdedSSGet(L"P", nullptr, nullptr, nullptr, set), RTNORM);
 }
 
 TEST_F(Opening, EndsWithTheWindow)

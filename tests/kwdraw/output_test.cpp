@@ -2,7 +2,10 @@
 #include "support.h"
 
 #include <QClipboard>
+#include <QDir>
 #include <QFile>
+
+#include <kwdraw/panels/saved_filters.h>
 
 using namespace kwdraw_test;
 using testing::HasSubstr;
@@ -103,6 +106,55 @@ TEST_F(Output, CopiesTheLastQuickSelectAsACommand)
     openPlan();
     selectCircles();
     ASSERT_TRUE(action(Command::CopyCommand).isEnabled());
+    action(Command::CopyCommand).trigger();
+    EXPECT_EQ(clipboard().text().toStdString(),
+              "kwselect " + planPath().toStdString() + " --filter 'Circle: Color'");
+}
+
+TEST_F(Output, CopiesAFilterOfThePanelAsACommand)
+{
+    openPlan();
+    emit window->findChild<SavedFilters*>()->runRequested("Circle and not Layer = WALLS");
+    ASSERT_TRUE(action(Command::CopyCommand).isEnabled());
+    action(Command::CopyCommand).trigger();
+    EXPECT_EQ(clipboard().text().toStdString(),
+              "kwselect " + planPath().toStdString() + " --filter 'Circle and not Layer = WALLS'");
+}
+
+TEST_F(Output, CopiesASavedFilterAsACommandThatNeedsNoNames)
+{
+    QDir().mkpath(settingsFolder() + "/kwqselect");
+    writeFile(settingsFolder() + "/kwqselect/filters.txt",
+              "pipes = Layer = PIPES\nround = Circle and not @pipes\n");
+    startAgain();
+    openPlan();
+    emit window->findChild<SavedFilters*>()->runRequested("@round");
+    EXPECT_THAT(selectedHandles(), testing::ElementsAre(0xA3));
+    action(Command::CopyCommand).trigger();
+    EXPECT_EQ(clipboard().text().toStdString(), "kwselect " + planPath().toStdString() +
+                                                    " --filter 'Circle and not (Layer = PIPES)'");
+}
+
+TEST_F(Output, CopiesWhatWasSearchedForBehindAFilterOfThePanel)
+{
+    openPlan();
+    emit window->findChild<SavedFilters*>()->runRequested("Circle or Line");
+    quickSelect([](QWidget& dialog) {
+        chooseType(dialog, "Circle");
+        accept(dialog);
+    });
+    action(Command::CopyCommand).trigger();
+    EXPECT_EQ(clipboard().text().toStdString(),
+              "kwselect " + planPath().toStdString() +
+                  " --filter 'Circle or Line' --then 'Circle: General: Color'");
+}
+
+TEST_F(Output, CopiesNoCommandForAFilterThatFailed)
+{
+    openPlan();
+    selectCircles();
+    emit window->findChild<SavedFilters*>()->runRequested("Circle: Radus > 5");
+    ASSERT_TRUE(action(Command::CopyCommand).isEnabled()) << "the selection is still the circles'";
     action(Command::CopyCommand).trigger();
     EXPECT_EQ(clipboard().text().toStdString(),
               "kwselect " + planPath().toStdString() + " --filter 'Circle: Color'");

@@ -7,6 +7,7 @@
 
 #include <QApplication>
 #include <QComboBox>
+#include <QLabel>
 #include <QListWidget>
 #include <QPainter>
 #include <QTableView>
@@ -96,7 +97,16 @@ void takeWithList(Pictures& pictures, const QString& name, QWidget& dialog, QCom
     opened->hidePopup();
 }
 
-void takeDialog(Pictures& pictures, QWidget& dialog)
+/// The dialog with what it would select in the window behind it.
+void takePreview(Pictures& pictures, MainWindow& window, QWidget& dialog)
+{
+    const auto* line = window.findChild<QLabel*>("preview");
+    QTest::qWaitFor([&] { return line->isVisible() && !line->text().contains("..."); }, kLongest);
+    window.findChild<DrawingView*>()->renderedPicture();
+    pictures.take("preview", {&window, &dialog});
+}
+
+void takeDialog(Pictures& pictures, MainWindow& window, QWidget& dialog)
 {
     combo(dialog, "IDC_QSELECT_OBJECT_TYPE_COMBO")->setCurrentText("Circle");
     chooseProperty(dialog, "Radius");
@@ -104,6 +114,7 @@ void takeDialog(Pictures& pictures, QWidget& dialog)
     edit->setText("0.25");
     edit->setFocus();
     pictures.take("quick-select", {&dialog});
+    takePreview(pictures, window, dialog);
     for (const auto& [property, name] : {std::pair{"Color", "colors"},
                                          {"Layer", "layers"},
                                          {"Linetype", "linetypes"},
@@ -170,7 +181,7 @@ int main(int argc, char** argv)
     RestorePreviousResource();
     QTimer::singleShot(kSettle, [&] {
         QWidget* dialog = QApplication::activeModalWidget();
-        takeDialog(pictures, *dialog);
+        takeDialog(pictures, window, *dialog);
         QTest::keyClick(dialog, Qt::Key_Return);
     });
     window.carryOut("QSELECT");

@@ -130,6 +130,12 @@ WindowTest::WindowTest()
     setSwitch(L"COLORTHEME", 0);
     setSwitch(L"QSELECTLISTVALUES", 0);
     kduiApplyColorTheme();
+    startAgain();
+}
+
+void WindowTest::startAgain()
+{
+    window.reset(); // there is one at a time
     window = std::make_unique<MainWindow>(*program->module);
     window->resize(1000, 700);
     window->show();

@@ -45,6 +45,8 @@ class WindowTest : public testing::Test
     WindowTest();
     ~WindowTest() override;
 
+    /// Another window with the settings that the last one has stored.
+    void startAgain();
     /// Writes a plan into the folder of the test and opens it.
     void openPlan(const Plan& plan = {});
     /// Opens a file and waits until that has come to an end.

@@ -189,6 +189,49 @@ class NamedFilters(Plan):
         self.assertEqual(run.status, CANNOT_WORK)
 
 
+class RecentFilters(Plan):
+    def setUp(self):
+        super().setUp()
+        folder = tempfile.TemporaryDirectory()
+        self.addCleanup(folder.cleanup)
+        self.environment = {"XDG_CONFIG_HOME": folder.name}
+        self.file = Path(folder.name) / "kwqselect" / "recent_filters.txt"
+        self.file.parent.mkdir()
+        self.file.write_text("Line and Layer = WALLS\nCircle: Radius > 5\n")
+
+    def test_are_listed_with_their_numbers(self):
+        run = Run("--list", "recent", environment=self.environment)
+        self.assertEqual(run.lines, ["1\tLine and Layer = WALLS", "2\tCircle: Radius > 5"])
+        self.assertEqual(run.status, SELECTED)
+
+    def test_are_none_at_first(self):
+        self.file.unlink()
+        run = Run("--list", "recent", environment=self.environment)
+        self.assertEqual((run.lines, run.status), ([], NOTHING))
+
+    def test_are_run_by_their_numbers(self):
+        for number, filter in enumerate(self.file.read_text().splitlines(), 1):
+            found = handles(self.plan, "--recent", str(number), environment=self.environment)
+            self.assertEqual(found, handles(self.plan, filter))
+            self.assertTrue(found)
+
+    def test_can_be_followed_by_others(self):
+        found = handles(self.plan, "--recent", "2", "--append", "Arc", environment=self.environment)
+        self.assertEqual(found, handles(self.plan, "Circle: Radius > 5", "--append", "Arc"))
+
+    def test_are_not_run_beyond_their_end(self):
+        for number in ("3", "0", "x"):
+            run = Run(self.plan, "--recent", number, environment=self.environment)
+            self.assertEqual(run.status, CANNOT_WORK, number)
+        run = Run(self.plan, "--recent", "3", environment=self.environment)
+        self.assertIn("recent_filters.txt holds 2", run.errors)
+
+    def test_are_no_second_filter(self):
+        for other in (["Circle"], ["--filter", "Circle"], ["--type", "Circle"]):
+            run = Run(self.plan, "--recent", "1", *other, environment=self.environment)
+            self.assertEqual(run.status, CANNOT_WORK, other)
+
+
 class Tolerance(Plan):
     def test_decides_what_is_equal(self):
         drawing = support.kinds()  # its circle has the radius 12.5

@@ -92,7 +92,9 @@ Document::Remembered Document::remember() const
         return {};
     Remembered remembered;
     remembered.space = m_drawing->spaces[static_cast<std::size_t>(m_space)].name;
-    remembered.block = openBlockName();
+    if (!m_block.isNull())
+        remembered.block = nameOfBlock(m_block);
+    remembered.selected = m_selectedInBlock; // a block that is still being built has no selection
     for (const KdDbObjectId id : m_selection.ids())
         remembered.selected.push_back(id.handle());
     return remembered;
@@ -105,12 +107,17 @@ void Document::recall(const Remembered& remembered)
     KdDbObjectId block;
     if (!remembered.block.isEmpty() && database.table<KdDbBlockTable>().getIdAt(
                                            remembered.block.toStdWString().c_str(), block) == eOk)
-        return openBlock(block); // shown a little later, when nothing of it is selected
+        return openBlock(block, remembered.selected);
+    select(remembered.selected);
+}
+
+void Document::select(const std::vector<KdDbHandle>& handles)
+{
     const KdDbObjectId space = kdedCurrentSpaceId();
     std::vector<KdDbObjectId> selected;
-    for (const KdDbHandle handle : remembered.selected) {
+    for (const KdDbHandle handle : handles) {
         KdDbObjectId id;
-        if (database.getObjectId(id, handle) == eOk && id.ownerId() == space)
+        if (m_drawing->database->getObjectId(id, handle) == eOk && id.ownerId() == space)
             selected.push_back(id);
     }
     m_selection.set(selected);
@@ -164,6 +171,11 @@ bool Document::showSpace(const QString& name)
 
 void Document::openBlock(KdDbObjectId block)
 {
+    openBlock(block, {});
+}
+
+void Document::openBlock(KdDbObjectId block, std::vector<KdDbHandle> selected)
+{
     if (!m_drawing || isBusy())
         return;
     m_selection.reset();
@@ -173,6 +185,7 @@ void Document::openBlock(KdDbObjectId block)
         return;
     }
     m_block = block;
+    m_selectedInBlock = std::move(selected);
     const QString folder = QFileInfo(m_drawing->path).absolutePath();
     m_building.start([this, block, folder](const BackgroundTask::Progress& progress) {
         m_built = buildScene(*m_drawing->database, block, nullptr, progress, folder);
@@ -193,11 +206,13 @@ void Document::endBuilding()
         return;
     }
     emit spaceChanged();
+    select(std::exchange(m_selectedInBlock, {}));
 }
 
 void Document::leaveBlock()
 {
     kdedCloseBlock();
+    m_selectedInBlock.clear();
     m_block = {};
     m_blockScene.reset();
 }

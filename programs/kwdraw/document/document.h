@@ -67,6 +67,9 @@ class Document : public QObject
     bool isPutOff(std::shared_ptr<OpenDrawing>& drawing, bool isReload);
     void take(std::shared_ptr<OpenDrawing> drawing);
     void recall(const Remembered& remembered);
+    /// What of these lies in the space that is shown.
+    void select(const std::vector<KdDbHandle>& handles);
+    void openBlock(KdDbObjectId block, std::vector<KdDbHandle> selected);
     void enter(int number);
     void leaveBlock();
     void endBuilding();
@@ -75,6 +78,7 @@ class Document : public QObject
     Selection m_selection;
     int m_space = -1;
     KdDbObjectId m_block;
+    std::vector<KdDbHandle> m_selectedInBlock; ///< as soon as its scene is built
     std::shared_ptr<const Scene> m_blockScene;
     std::shared_ptr<OpenDrawing> m_waiting; ///< comes in place of the drawing when building ends
     bool m_waitingIsReload = false;

@@ -2,11 +2,13 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QThreadPool>
 
 #include <algorithm>
 #include <utility>
 
 #include <common/drawing_reading.h>
+#include <database/goodbye.h>
 #include <kwdraw/scene/scene_builder.h>
 
 namespace {
@@ -43,6 +45,15 @@ bool buildScenes(OpenDrawing& drawing, const BackgroundTask::Progress& progress)
 
 } // namespace
 
+std::shared_ptr<OpenDrawing> makeOpenDrawing()
+{
+    return {new OpenDrawing, [](OpenDrawing* drawing) {
+                if (drawing->database)
+                    kddbSayGoodbye(*drawing->database);
+                QThreadPool::globalInstance()->start([drawing] { delete drawing; });
+            }};
+}
+
 std::vector<DrawingSpace> spacesOf(const KdDbDatabase& database)
 {
     const KdDbObjectId layouts =
@@ -69,8 +80,7 @@ std::vector<DrawingSpace> spacesOf(const KdDbDatabase& database)
     return sorted;
 }
 
-/// What the work leaves behind. The drawing goes in the main thread, as everything does that the
-/// editor may know of.
+/// What the work leaves behind.
 struct DrawingLoader::Outcome
 {
     std::shared_ptr<OpenDrawing> drawing;
@@ -103,7 +113,7 @@ void DrawingLoader::start(const QString& path)
 {
     m_path = path;
     m_outcome = std::make_shared<Outcome>();
-    m_outcome->drawing = std::make_shared<OpenDrawing>();
+    m_outcome->drawing = makeOpenDrawing();
     m_outcome->drawing->path = path;
     m_task.start([outcome = m_outcome](const BackgroundTask::Progress& progress) {
         read(*outcome, progress);

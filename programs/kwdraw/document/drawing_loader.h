@@ -31,6 +31,11 @@ struct OpenDrawing
     ReadReport report;
 };
 
+/// A drawing with nothing in it. When its last owner lets go, whoever keeps something of it in the
+/// host is told at once, in that thread; what it holds is destroyed in another one, which takes a
+/// while for a large drawing.
+std::shared_ptr<OpenDrawing> makeOpenDrawing();
+
 /// Reads one drawing at a time and builds the scenes of its spaces, in a thread of its own. A
 /// drawing asked for meanwhile takes the place of the one that is being read.
 class DrawingLoader : public QObject

@@ -3,6 +3,8 @@
 #include <editor/selection_sets.h>
 
 #include <algorithm>
+#include <iterator>
+#include <unordered_set>
 #include <utility>
 
 #include <common/entity_set.h>
@@ -39,9 +41,10 @@ void Selection::remove(const Ids& ids)
 
 void Selection::invert(const Ids& all)
 {
+    const std::unordered_set<KdDbObjectId> selected(m_ids.begin(), m_ids.end());
     Ids others;
     std::copy_if(all.begin(), all.end(), std::back_inserter(others),
-                 [&](KdDbObjectId id) { return !contains(id); });
+                 [&](KdDbObjectId id) { return !selected.contains(id); });
     set(others);
 }
 
@@ -60,7 +63,6 @@ void Selection::follow(int flags)
 void Selection::take(Ids ids)
 {
     m_ids = std::move(ids);
-    m_members = {m_ids.begin(), m_ids.end()};
     emit changed();
 }
 

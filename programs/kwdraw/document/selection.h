@@ -4,7 +4,6 @@
 #include <QObject>
 
 #include <deque>
-#include <unordered_set>
 #include <vector>
 
 #include <database/object_id.h>
@@ -26,7 +25,6 @@ class Selection : public QObject
 
     /// In the order in which they were selected.
     const Ids& ids() const { return m_ids; }
-    bool contains(KdDbObjectId id) const { return m_members.contains(id); }
 
     void set(const Ids& ids);
     void add(const Ids& ids);
@@ -69,7 +67,6 @@ class Selection : public QObject
     void step(std::deque<Ids>& from, std::deque<Ids>& to);
 
     Ids m_ids;
-    std::unordered_set<KdDbObjectId> m_members;
     std::deque<Ids> m_undo;
     std::deque<Ids> m_redo;
     std::size_t m_idsInUndo = 0;

@@ -138,8 +138,11 @@ void SavedFilters::reload()
         return m_settle.start();
     const std::vector<FilterFile::Filter> before = m_file.filters();
     const FilterFile::Problems problems = m_file.readAll(m_file.path());
-    if (m_file.filters() != before)
+    const bool isOtherRecent = m_recent.readAgain();
+    if (isOtherRecent || m_file.filters() != before)
         list();
+    if (isOtherRecent)
+        emit recentChanged();
     if (problems == m_wrongLines)
         return;
     m_wrongLines = problems;
@@ -212,6 +215,14 @@ void SavedFilters::noteRun(const std::wstring& text)
     m_last = text;
     m_recent.note(text);
     list();
+    emit recentChanged();
+}
+
+void SavedFilters::forgetRecent()
+{
+    m_recent.clear();
+    list();
+    emit recentChanged();
 }
 
 void SavedFilters::tell(const QString& problem)

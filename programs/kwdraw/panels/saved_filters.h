@@ -3,13 +3,14 @@
 
 #include <filesystem>
 #include <string>
+#include <vector>
 
 #include <QFileSystemWatcher>
 #include <QTimer>
 #include <QWidget>
 
 #include <common/filter_file.h>
-#include <kwdraw/panels/recent_filters.h>
+#include <common/recent_filters.h>
 
 class QLabel;
 class QPushButton;
@@ -17,7 +18,7 @@ class QTreeWidget;
 class QTreeWidgetItem;
 
 /// Lists the user's filters. A double click or Enter asks for a run; names are changed in place.
-/// Follows the file when another program changes it, and tells which of its lines are wrong.
+/// Follows the files when another program changes them, and tells which of its lines are wrong.
 class SavedFilters : public QWidget
 {
     Q_OBJECT
@@ -31,12 +32,16 @@ class SavedFilters : public QWidget
     /// @param text  its filter; empty if the run can't be told as one
     void noteRun(const std::wstring& text);
     const FilterFile& filters() const { return m_file; }
+    /// The filters that were run last, the latest first.
+    const std::vector<std::wstring>& recent() const { return m_recent.texts(); }
+    void forgetRecent();
     /// Something is to be told about a filter, such as why it can't be run here.
     void tell(const QString& problem);
 
   signals:
     /// `runFilter` in filter_running.h does it; a success is to be noted.
     void runRequested(const QString& text);
+    void recentChanged();
 
   private:
     void makeList();

@@ -25,13 +25,19 @@ constexpr std::size_t kRunsKept = 20000;
 
 } // namespace
 
+double thinnestPen(const PaintStyle& style)
+{
+    return std::max(1.0, std::round(style.pixelRatio));
+}
+
 double penWidth(const SceneLook& look, const PaintStyle& style)
 {
+    const double thinnest = thinnestPen(style);
     if (!style.lineweights)
-        return 1.0;
+        return thinnest;
     const double width = look.lineweight * kInchesPerLineweight * kPixelsPerInch * style.pixelRatio;
     // Pens of one pixel are painted much faster than those a little wider.
-    return width < 1.25 ? 1.0 : width;
+    return width < 1.25 * thinnest ? thinnest : width;
 }
 
 ShapePainter::ShapePainter(QPainter& painter, const PaintStyle& style, GlyphStore& glyphs)
@@ -121,8 +127,10 @@ void ShapePainter::paintDot(QPointF pixel, const QColor& color)
     flush();
     if (!m_style.clip.contains(pixel))
         return;
-    m_painter.fillRect(QRect(static_cast<int>(std::floor(pixel.x())),
-                             static_cast<int>(std::floor(pixel.y())), 1, 1),
+    const int size = static_cast<int>(thinnestPen(m_style));
+    const double half = (size - 1) / 2.0;
+    m_painter.fillRect(QRect(static_cast<int>(std::floor(pixel.x() - half)),
+                             static_cast<int>(std::floor(pixel.y() - half)), size, size),
                        color);
 }
 
@@ -200,7 +208,7 @@ void ShapePainter::paintText(const SceneShape& shape)
     PixelFrame frame = m_frame.within(text.placement);
     const QPointF up = frame.mapVector({0.0, 1.0});
     if (std::hypot(up.x(), up.y()) < kTextPixels) {
-        Pen thin{m_pens[shape.look].color, 1.0};
+        Pen thin{m_pens[shape.look].color, thinnestPen(m_style)};
         thin.color.setAlpha(thin.color.alpha() * 2 / 3);
         usePen(thin);
         constexpr PathStep kSteps[] = {PathStep::Move, PathStep::Line};

@@ -24,7 +24,10 @@ struct PaintStyle
     ClipBox clip;            ///< the picture and a little more
 };
 
-/// The pen of a picture has one pixel of this size where no lineweight is shown.
+/// One pixel of the widget, rounded to whole pixels of the picture: on a fine screen a line of one
+/// of its own pixels could hardly be seen.
+double thinnestPen(const PaintStyle& style);
+/// The thinnest where no lineweight is shown, and for those that come out about as thin.
 double penWidth(const SceneLook& look, const PaintStyle& style);
 
 /// Gathers lines of one pen, so call `flush` before anything else is painted.

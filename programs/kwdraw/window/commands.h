@@ -33,6 +33,7 @@ enum class Command
     CopyJson,
     CopyCommand,
     QuickSelect,
+    RunLast,
     SelectSimilar,
     ZoomExtents,
     ZoomWindow,
@@ -47,6 +48,7 @@ enum class Command
     Lineweights,
     LightColors,
     ListValues,
+    PreviewMatches,
     Layers,
     Findings,
     Help,
@@ -59,15 +61,16 @@ enum class Command
 enum Need : unsigned
 {
     kNothing = 0,
-    kDrawing = 1,    ///< one is open
-    kSelected = 2,   ///< something is selected
-    kAttention = 4,  ///< no command waits for the user, and nothing is being built
-    kUndoable = 8,   ///< there is a selection to go back to
-    kRedoable = 16,  ///< and one to go forth to
-    kBlockOpen = 32, ///< a block definition is open
-    kFindings = 64,  ///< the reader found something
-    kWriter = 128,   ///< no selection is being written
-    kRun = 256,      ///< the selection comes from runs that can be told as a command
+    kDrawing = 1,        ///< one is open
+    kSelected = 2,       ///< something is selected
+    kAttention = 4,      ///< no command waits for the user, and nothing is being built
+    kUndoable = 8,       ///< there is a selection to go back to
+    kRedoable = 16,      ///< and one to go forth to
+    kBlockOpen = 32,     ///< a block definition is open
+    kFindings = 64,      ///< the reader found something
+    kWriter = 128,       ///< no selection is being written
+    kRun = 256,          ///< the selection comes from runs that can be told as a command
+    kRecentFilter = 512, ///< a filter was run at some time
 };
 
 enum class Menu

@@ -23,6 +23,7 @@
 #include <kwdraw/panels/property_panel.h>
 #include <kwdraw/panels/saved_filters.h>
 #include <kwdraw/window/help_window.h>
+#include <kwdraw/window/match_preview.h>
 #include <kwdraw/window/notice_bar.h>
 #include <kwdraw/window/selection_output.h>
 #include <kwdraw/window/start_page.h>
@@ -33,6 +34,7 @@ namespace {
 constexpr const wchar_t* kGeometry = L"Geometry";
 constexpr const wchar_t* kDocks = L"Docks";
 constexpr const wchar_t* kLineweights = L"Lineweights";
+constexpr const wchar_t* kPreviewMatches = L"PreviewMatches";
 constexpr int kDockVersion = 1; ///< changes when docks come or go
 
 // clang-format off
@@ -61,6 +63,7 @@ MainWindow::MainWindow(const Module& module)
       m_output(new SelectionOutput(module, m_document, this)),
       m_commandLine(new CommandLine),
       m_status(new StatusLine(*statusBar())),
+      m_matches(new MatchPreview(module, this)),
       m_promptBar(new NoticeBar("promptBar", NoticeBar::Tone::Prompt)),
       m_blockBar(new NoticeBar("blockBar", NoticeBar::Tone::Plain)),
       m_changedBar(new NoticeBar("changedBar", NoticeBar::Tone::Plain)),
@@ -88,6 +91,7 @@ MainWindow::MainWindow(const Module& module)
 
 MainWindow::~MainWindow()
 {
+    m_module.holdDrawing(false);
     delete m_output; // before its document
     disconnect(&m_document, nullptr, this, nullptr);
     disconnect(&m_document.selection(), nullptr, this, nullptr);
@@ -182,6 +186,8 @@ void MainWindow::makeMenus()
         menu.addAction(m_commands.action(row.command));
         if (row.command == Command::Open)
             m_recentMenu = menu.addMenu(tr("Open &Recent"));
+        if (row.command == Command::RunLast)
+            m_filterMenu = menu.addMenu(tr("R&ecent Filters"));
     }
     QMenu& view = *menus[static_cast<int>(Menu::View)];
     view.addSeparator();
@@ -189,6 +195,9 @@ void MainWindow::makeMenus()
         view.addAction(dock->toggleViewAction());
     m_recentMenu->setObjectName("recentMenu");
     connect(m_recentMenu, &QMenu::aboutToShow, this, &MainWindow::fillRecentMenu);
+    m_filterMenu->setObjectName("filterMenu");
+    m_filterMenu->setToolTipsVisible(true);
+    connect(m_filterMenu, &QMenu::aboutToShow, this, &MainWindow::fillFilterMenu);
 }
 
 void MainWindow::makeToolBar()
@@ -221,6 +230,7 @@ void MainWindow::restoreSettings()
     restoreGeometry(storedBytes(kGeometry));
     restoreState(storedBytes(kDocks), kDockVersion);
     m_commands.action(Command::Lineweights)->setChecked(storedText(kLineweights) == "1");
+    m_commands.action(Command::PreviewMatches)->setChecked(storedText(kPreviewMatches) != "0");
     m_commands.action(Command::LightColors)->setChecked(switchValue(L"COLORTHEME") == 1);
     m_commands.action(Command::ListValues)->setChecked(switchValue(L"QSELECTLISTVALUES") == 1);
 }
@@ -230,6 +240,7 @@ void MainWindow::storeSettings()
     storeBytes(kGeometry, saveGeometry());
     storeBytes(kDocks, saveState(kDockVersion));
     storeText(kLineweights, m_commands.action(Command::Lineweights)->isChecked() ? "1" : "0");
+    storeText(kPreviewMatches, m_commands.action(Command::PreviewMatches)->isChecked() ? "1" : "0");
     storeVariables();
 }
 

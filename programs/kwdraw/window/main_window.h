@@ -18,6 +18,7 @@
 
 class CommandLine;
 class LayerPanel;
+class MatchPreview;
 class NoticeBar;
 class PropertyPanel;
 class QStackedWidget;
@@ -112,6 +113,10 @@ class MainWindow : public QMainWindow, public MainAppService
     void connectPanels();
     /// Carries out what selects something; a problem is told. `isOneRun`: the module knows it.
     bool run(const std::function<bool(std::string&)>& command, bool isOneRun);
+    /// Runs a filter that was written down, and notes it.
+    void runWritten(const QString& text);
+    void runLast();
+    void fillFilterMenu();
     void findSimilar(const std::vector<KdDbObjectId>& entities);
     void noteRun();
     void exportSelection(const QString& files, const QString& ending);
@@ -145,12 +150,14 @@ class MainWindow : public QMainWindow, public MainAppService
     SelectionOutput* m_output;
     CommandLine* m_commandLine;
     StatusLine* m_status;
+    MatchPreview* m_matches;
     NoticeBar* m_promptBar;
     NoticeBar* m_blockBar;
     NoticeBar* m_changedBar;
     NoticeBar* m_findingsBar;
     NoticeBar* m_problemBar;
     QMenu* m_recentMenu = nullptr;
+    QMenu* m_filterMenu = nullptr;
 
     QString m_wantedLayout;
     bool m_isReloading = false;

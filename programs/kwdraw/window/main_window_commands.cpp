@@ -21,8 +21,10 @@
 #include <kwdraw/document/settings.h>
 #include <kwdraw/panels/command_line.h>
 #include <kwdraw/panels/layer_panel.h>
+#include <kwdraw/panels/saved_filters.h>
 #include <kwdraw/window/findings_window.h>
 #include <kwdraw/window/help_window.h>
+#include <kwdraw/window/match_preview.h>
 #include <kwdraw/window/notice_bar.h>
 #include <kwdraw/window/selection_output.h>
 
@@ -77,6 +79,7 @@ void MainWindow::connectCommands()
     on.onToggled(Command::LightColors, [this](bool light) { setLightColors(light); });
     on.onToggled(Command::ListValues,
                  [](bool listed) { setSwitch(L"QSELECTLISTVALUES", listed ? 1 : 0); });
+    on.onToggled(Command::PreviewMatches, [this](bool shown) { m_matches->setOn(shown); });
     m_commandLine->setCommands(m_commands.typedNames() + QStringList{"EXPORT", "LAYOUT"});
     connect(m_commandLine, &CommandLine::entered, this, &MainWindow::carryOut);
     connect(m_commandLine, &CommandLine::left, this, [this] {
@@ -94,6 +97,7 @@ void MainWindow::updateCommands()
         when(!waits, kAttention) | when(selection.canUndo(), kUndoable) |
         when(selection.canRedo(), kRedoable) | when(!m_output->isRunning(), kWriter) |
         when(!m_runs.runs().empty(), kRun) | when(m_document.hasOpenBlock(), kBlockOpen) |
+        when(!m_filters->recent().empty(), kRecentFilter) |
         when(m_document.isOpen() && m_document.drawing().report.totalFindings > 0, kFindings));
     m_recentMenu->setEnabled(!waits);
 }

@@ -67,6 +67,7 @@ void MainWindow::connectDrawing()
         m_loader.cancel();
         m_document.cancelBuilding();
     });
+    connect(&m_document, &Document::leaving, this, [this] { m_module.holdDrawing(false); });
     connect(&m_document, &Document::spaceChanged, this, &MainWindow::showSpace);
     connect(&m_document, &Document::busyChanged, this, &MainWindow::showWork);
     connect(&m_document, &Document::building, this,
@@ -196,6 +197,7 @@ void MainWindow::showSpace()
     if (!m_placeName.isEmpty())
         m_places[m_placeName] = m_view->place();
     m_placeName = placeName();
+    m_module.holdDrawing(true); // nothing changes in a space while it is shown
     m_pages->setCurrentWidget(m_view);
     m_view->setScene(m_document.scene());
     m_view->setLayerStates(m_layers->model().states());

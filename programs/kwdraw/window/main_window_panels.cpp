@@ -8,6 +8,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QGuiApplication>
+#include <QMenu>
 
 #include <common/command_line_text.h>
 #include <kwdraw/panels/command_line.h>
@@ -61,21 +62,8 @@ void MainWindow::connectPanels()
         run([&](std::string& problem) { return ::carryOut(m_module, request, problem); }, true);
     });
     connect(m_properties, &PropertyPanel::similarRequested, this, &MainWindow::findSimilar);
-    connect(m_filters, &SavedFilters::runRequested, this, [this](const QString& text) {
-        const std::wstring filter = text.toStdWString();
-        std::string problem;
-        const bool isDone = run(
-            [&](std::string& reason) {
-                const bool found = runFilter(m_module, filter, m_filters->filters(), reason);
-                problem = reason;
-                return found;
-            },
-            false);
-        if (isDone)
-            m_filters->noteRun(filter);
-        else
-            m_filters->tell(QString::fromStdString(problem));
-    });
+    connect(m_filters, &SavedFilters::runRequested, this, &MainWindow::runWritten);
+    connect(m_filters, &SavedFilters::recentChanged, this, &MainWindow::updateCommands);
     connect(m_output, &SelectionOutput::progressed, this,
             [this](double part) { m_status->showWork(tr("Writing the selection"), part); });
     connect(m_output, &SelectionOutput::ended, this,
@@ -92,6 +80,7 @@ void MainWindow::connectPanels()
             m_output->copy(offered.format, exportColumns(m_properties->properties()));
         });
     m_commands.on(Command::CopyCommand, [this] { copyCommand(); });
+    m_commands.on(Command::RunLast, [this] { runLast(); });
     m_commands.on(Command::SelectSimilar, [this] { findSimilar(m_document.selection().ids()); });
 }
 
@@ -113,6 +102,50 @@ bool MainWindow::run(const std::function<bool(std::string&)>& command, bool isOn
         noteRun();
     updateCommands();
     return isDone;
+}
+
+void MainWindow::runWritten(const QString& text)
+{
+    const std::wstring filter = text.toStdWString();
+    std::string problem;
+    const bool isDone = run(
+        [&](std::string& reason) {
+            const bool found = runFilter(m_module, filter, m_filters->filters(), reason);
+            if (found)
+                m_runs.add(m_filters->filters().expandedText(filter));
+            problem = reason;
+            return found;
+        },
+        false);
+    if (isDone)
+        m_filters->noteRun(filter);
+    else
+        m_filters->tell(QString::fromStdString(problem));
+}
+
+void MainWindow::runLast()
+{
+    runWritten(QString::fromStdWString(m_filters->recent().front()));
+}
+
+void MainWindow::fillFilterMenu()
+{
+    constexpr int kLongest = 60; // characters that a menu shows of a filter
+    m_filterMenu->clear();
+    int number = 0;
+    for (const std::wstring& filter : m_filters->recent()) {
+        const QString text = QString::fromStdWString(filter);
+        QString shown = text.size() > kLongest ? text.left(kLongest) + QChar(0x2026) : text;
+        QAction* action =
+            m_filterMenu->addAction(tr("&%1 %2").arg(++number % 10).arg(shown.replace('&', "&&")),
+                                    this, [this, text] { runWritten(text); });
+        action->setToolTip(text);
+        action->setEnabled(m_commands.action(Command::QuickSelect)->isEnabled());
+    }
+    m_filterMenu->addSeparator();
+    QAction* clear =
+        m_filterMenu->addAction(tr("&Clear List"), this, [this] { m_filters->forgetRecent(); });
+    clear->setEnabled(number > 0);
 }
 
 void MainWindow::findSimilar(const std::vector<KdDbObjectId>& entities)

@@ -9,6 +9,7 @@
 #include <kwdraw/panels/command_line.h>
 #include <kwdraw/panels/layer_panel.h>
 #include <kwdraw/panels/property_panel.h>
+#include <kwdraw/window/match_preview.h>
 #include <kwdraw/window/notice_bar.h>
 #include <kwdraw/window/status_line.h>
 
@@ -28,7 +29,10 @@ void MainWindow::connectSelecting()
         activateWindow();
         focusDrawing();
     });
+    connect(m_matches, &MatchPreview::told, m_status, &StatusLine::showPreview);
+    connect(m_matches, &MatchPreview::found, m_view, &DrawingView::setPreviewed);
     connect(&m_picking, &ObjectPicking::begun, this, [this] {
+        m_matches->clear();
         m_commandLine->setPrompt(tr("Select objects:"));
         updateCommands();
         showPicking();
@@ -68,6 +72,7 @@ void MainWindow::quickSelect()
     {
         const CommandScope scope(*this);
         m_module.selectCmd();
+        m_matches->clear();
         if (m_hasOutcome)
             noteRun();
     }

@@ -4,6 +4,7 @@
 #include <editor/units.h>
 #include <runtime/resbuf.h>
 
+#include <QEvent>
 #include <QFontMetrics>
 #include <QLabel>
 #include <QProgressBar>
@@ -11,6 +12,7 @@
 #include <QToolButton>
 
 #include <database/database.h>
+#include <kwdraw/view/ground.h>
 
 namespace {
 
@@ -46,6 +48,7 @@ StatusLine::StatusLine(QStatusBar& bar)
       m_place(addLabel("place", 28)),
       m_units(addLabel("units", 0)),
       m_count(addLabel("count", 0)),
+      m_preview(addLabel("preview", 0)),
       m_what(addLabel("work", 0)),
       m_progress(new QProgressBar),
       m_cancel(new QToolButton)
@@ -62,11 +65,14 @@ StatusLine::StatusLine(QStatusBar& bar)
     bar.addPermanentWidget(m_what);
     bar.addPermanentWidget(m_progress);
     bar.addPermanentWidget(m_cancel);
+    bar.addPermanentWidget(m_preview);
     bar.addPermanentWidget(m_count);
     bar.addPermanentWidget(m_units);
     bar.addWidget(m_place);
     endWork();
     showCount(0);
+    showPreview({});
+    colorPreview();
 }
 
 QLabel* StatusLine::addLabel(const char* name, int widthInLetters)
@@ -92,6 +98,26 @@ void StatusLine::showUnits()
 void StatusLine::showCount(std::size_t selected)
 {
     m_count->setText(tr("%1 selected").arg(selected));
+}
+
+void StatusLine::showPreview(const QString& line)
+{
+    m_preview->setText(line);
+    m_preview->setVisible(!line.isEmpty());
+}
+
+void StatusLine::colorPreview()
+{
+    const bool isDark = palette().color(QPalette::Window).lightness() < 128;
+    m_preview->setStyleSheet(QString("border-left: 8px solid %1; padding-left: 4px")
+                                 .arg(Ground::of(isDark, false).previewed.name()));
+}
+
+void StatusLine::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange)
+        colorPreview();
 }
 
 void StatusLine::showWork(const QString& what, double part)

@@ -21,6 +21,8 @@ class StatusLine : public QWidget
     /// The units of the working drawing, and no place.
     void showUnits();
     void showCount(std::size_t selected);
+    /// What would be selected, beside the colour in which the view shows it; empty: nothing.
+    void showPreview(const QString& line);
     /// What is going on, with the part that is done, 0 to 1.
     void showWork(const QString& what, double part);
     void endWork();
@@ -28,13 +30,18 @@ class StatusLine : public QWidget
   signals:
     void cancelled();
 
+  protected:
+    void changeEvent(QEvent* event) override;
+
   private:
+    void colorPreview();
     QLabel* addLabel(const char* name, int widthInLetters);
 
     QStatusBar& m_bar;
     QLabel* m_place;
     QLabel* m_units;
     QLabel* m_count;
+    QLabel* m_preview;
     QLabel* m_what;
     QProgressBar* m_progress;
     QToolButton* m_cancel;
