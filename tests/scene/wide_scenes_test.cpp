@@ -78,7 +78,7 @@ TEST_F(WideScenes, DashesBeginAtEachSegmentUnlessTheyRunOn)
     const auto* apart = addPolyline({8.0, -4.0}, twoSides);
     const auto* running = addPolyline({8.0, -4.0}, [&](PolylineMembers& members) {
         twoSides(members);
-        members.hasPlinegen = true;
+        members.plinegen = true;
     });
     const auto scene = build();
     auto fills = fillsOf(*scene, apart);
@@ -94,7 +94,7 @@ TEST_F(WideScenes, DashesAcrossACornerAreMitred)
 {
     const auto* polyline = addPolyline({12.0, -2.0}, [](PolylineMembers& members) {
         members.points = {{0, 0}, {10, 0}, {10, 10}};
-        members.hasPlinegen = true;
+        members.plinegen = true;
     });
     const auto scene = build();
     const auto fills = fillsOf(*scene, polyline);
