@@ -97,6 +97,13 @@ void select(const Module& module, DrawingView& view)
     std::printf("%-44s %8.1f ms\n", "from OK to the marks, at most", longest);
 }
 
+template <class Condition>
+void waitFor(Condition condition)
+{
+    if (!QTest::qWaitFor(condition, kLongest))
+        std::fprintf(stderr, "window_benchmark: waited in vain\n");
+}
+
 /// Lets the window come to rest, as the panels read on in slices.
 void settle(DrawingView& view)
 {
@@ -127,12 +134,12 @@ void preview(MainWindow& window, DrawingView& view)
         QElapsedTimer timer;
         timer.start();
         const Stalls stalls;
-        QTest::qWaitFor(isCounted, kLongest);
+        waitFor(isCounted);
         dialog->findChild<QComboBox*>("IDC_QSELECT_OBJECT_TYPE_COMBO")->setCurrentText("Line");
         dialog->findChild<QComboBox*>("IDC_QSELECT_OPERATOR_COMBO")->setCurrentText("Select All");
         constexpr int kSettling = 100;
         QTest::qWait(kSettling);
-        QTest::qWaitFor(isCounted, kLongest);
+        waitFor(isCounted);
         view.renderedPicture();
         std::printf("%-44s %8.1f ms  %s\n", "two filters previewed", milliseconds(timer),
                     qPrintable(line->text()));
@@ -148,7 +155,7 @@ void openAgain(MainWindow& window, DrawingView& view, const QString& drawing)
     const Scene* const before = view.scene().get();
     const Stalls stalls;
     window.openFile(drawing);
-    QTest::qWaitFor([&] { return view.scene().get() != before; }, kLongest);
+    waitFor([&] { return view.scene().get() != before; });
     settle(view);
     stalls.tell("longest stop, the drawing opened again");
 }

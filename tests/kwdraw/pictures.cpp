@@ -100,10 +100,20 @@ void takeWithList(Pictures& pictures, const QString& name, QWidget& dialog, QCom
 /// The dialog with what it would select in the window behind it.
 void takePreview(Pictures& pictures, MainWindow& window, QWidget& dialog)
 {
+    combo(dialog, "IDC_QSELECT_OBJECT_TYPE_COMBO")->setCurrentText("Polyline");
+    chooseProperty(dialog, "Length");
+    combo(dialog, "IDC_QSELECT_OPERATOR_COMBO")->setCurrentText("> Greater Than");
+    dialog.findChild<QLineEdit*>("IDC_QSELECT_VALUE_EDIT")->setText("1000");
+    QTest::qWait(2 * kSettle); // for the count of these
     const auto* line = window.findChild<QLabel*>("preview");
-    QTest::qWaitFor([&] { return line->isVisible() && !line->text().contains("..."); }, kLongest);
+    const auto isCounted = [&] { return line->isVisible() && !line->text().contains("..."); };
+    if (!QTest::qWaitFor(isCounted, kLongest))
+        std::fprintf(stderr, "program_pictures: no preview came up\n");
     window.findChild<DrawingView*>()->renderedPicture();
+    dialog.move(window.mapToGlobal(QPoint(window.width(), 0)));
     pictures.take("preview", {&window, &dialog});
+    combo(dialog, "IDC_QSELECT_OPERATOR_COMBO")->setCurrentText("= Equals");
+    combo(dialog, "IDC_QSELECT_OBJECT_TYPE_COMBO")->setCurrentText("Circle");
 }
 
 void takeDialog(Pictures& pictures, MainWindow& window, QWidget& dialog)

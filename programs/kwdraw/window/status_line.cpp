@@ -48,6 +48,7 @@ StatusLine::StatusLine(QStatusBar& bar)
       m_place(addLabel("place", 28)),
       m_units(addLabel("units", 0)),
       m_count(addLabel("count", 0)),
+      m_previewColor(new QLabel),
       m_preview(addLabel("preview", 0)),
       m_what(addLabel("work", 0)),
       m_progress(new QProgressBar),
@@ -65,6 +66,9 @@ StatusLine::StatusLine(QStatusBar& bar)
     bar.addPermanentWidget(m_what);
     bar.addPermanentWidget(m_progress);
     bar.addPermanentWidget(m_cancel);
+    m_previewColor->setFixedSize(10, 10);
+    m_previewColor->setAutoFillBackground(true);
+    bar.addPermanentWidget(m_previewColor);
     bar.addPermanentWidget(m_preview);
     bar.addPermanentWidget(m_count);
     bar.addPermanentWidget(m_units);
@@ -104,13 +108,13 @@ void StatusLine::showPreview(const QString& line)
 {
     m_preview->setText(line);
     m_preview->setVisible(!line.isEmpty());
+    m_previewColor->setVisible(!line.isEmpty());
 }
 
 void StatusLine::colorPreview()
 {
     const bool isDark = palette().color(QPalette::Window).lightness() < 128;
-    m_preview->setStyleSheet(QString("border-left: 8px solid %1; padding-left: 4px")
-                                 .arg(Ground::of(isDark, false).previewed.name()));
+    m_previewColor->setPalette(QPalette(Ground::of(isDark, false).previewed));
 }
 
 void StatusLine::changeEvent(QEvent* event)

@@ -41,6 +41,7 @@ class StatusLine : public QWidget
     QLabel* m_place;
     QLabel* m_units;
     QLabel* m_count;
+    QLabel* m_previewColor;
     QLabel* m_preview;
     QLabel* m_what;
     QProgressBar* m_progress;
