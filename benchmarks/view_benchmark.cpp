@@ -23,7 +23,7 @@ ViewRequest requestFor(const std::shared_ptr<const Scene>& scene)
     request.scene = scene;
     request.size = {1920, 1080};
     request.margin = 160;
-    request.isDark = true;
+    request.colors = ViewColors::Dark;
     request.place = {scene->box.center(), scene->box.width() / 1900.0};
     return request;
 }

@@ -21,6 +21,8 @@ install(TARGETS KwQselectUtil LIBRARY DESTINATION lib/kwqselect)
 foreach(language ${KW_LANGUAGES})
   install(TARGETS KwQselectUtilRes_${language} KrxOPMRes_${language}
     LIBRARY DESTINATION lib/kwqselect/resources/${language})
+  install(FILES ${CMAKE_LIBRARY_OUTPUT_DIRECTORY}/kwqselect/resources/${language}/kwdraw.qm
+    DESTINATION lib/kwqselect/resources/${language})
 endforeach()
 
 install(FILES ${packaging}/man/kwselect.1 DESTINATION share/man/man1)

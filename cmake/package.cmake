@@ -18,6 +18,7 @@ from the shell with kwselect, in a window with kwdraw.")
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_NAME kwqselect)
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_SECTION graphics)
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_SHLIBDEPS ON)
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_RECOMMENDS qttranslations5-l10n) # the buttons of Qt's own dialogs
 # The libraries of the package itself, among which those that depend on each other are looked for.
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${CMAKE_LIBRARY_OUTPUT_DIRECTORY})
 set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS OFF)

@@ -1,5 +1,6 @@
 #include <platform/resources.h>
 
+#include <platform/resource_file.h>
 #include <platform/resource_layouts.h>
 
 #include "resource_library.h"
@@ -22,6 +23,8 @@ class ResourceLibraries
 {
   public:
     HINSTANCE library(std::wstring_view name);
+    /// The files of that name that may be there, best first.
+    std::vector<fs::path> candidates(const fs::path& name) const;
     void setLanguage(std::string_view language);
     void setFolder(const fs::path& folder);
 
@@ -69,16 +72,24 @@ HINSTANCE ResourceLibraries::library(std::wstring_view name)
     return found;
 }
 
-HINSTANCE ResourceLibraries::search(const fs::path& file)
+std::vector<fs::path> ResourceLibraries::candidates(const fs::path& name) const
 {
     std::vector<fs::path> folders = resourceFolders();
     if (!m_folder.empty())
         folders.insert(folders.begin(), m_folder);
+    std::vector<fs::path> files;
     for (const std::string& language :
          resourceLanguages(m_language.empty() ? environmentLanguage() : m_language))
         for (const fs::path& folder : folders)
-            if (const HINSTANCE found = load(folder / language / file))
-                return found;
+            files.push_back(folder / language / name);
+    return files;
+}
+
+HINSTANCE ResourceLibraries::search(const fs::path& file)
+{
+    for (const fs::path& candidate : candidates(file))
+        if (const HINSTANCE found = load(candidate))
+            return found;
     return nullptr;
 }
 
@@ -118,6 +129,19 @@ int LoadStringW(HINSTANCE module, unsigned int id, wchar_t* buffer, int size)
     const std::size_t count = std::min(text.size(), static_cast<std::size_t>(size - 1));
     buffer[text.copy(buffer, count)] = L'\0';
     return static_cast<int>(count);
+}
+
+fs::path findResourceFile(std::string_view name)
+{
+    const fs::path file(name);
+    if (name.empty() || file != file.filename())
+        return {};
+    for (const fs::path& candidate : libraries().candidates(file)) {
+        std::error_code error;
+        if (fs::is_regular_file(candidate, error))
+            return candidate;
+    }
+    return {};
 }
 
 std::string_view kdFindLayout(HINSTANCE module, std::wstring_view path)

@@ -10,6 +10,7 @@
 #include <CLI/CLI.hpp>
 
 #include <kwdraw/document/settings.h>
+#include <kwdraw/document/user_language.h>
 #include <kwdraw/window/main_window.h>
 
 namespace {
@@ -60,6 +61,7 @@ int main(int argc, char** argv)
     if (const auto status = readOptions(argc, argv, options))
         return *status;
     installMessageBoxWindows();
+    const Translation translation;
     Module module;
     if (!module.load(modulePath())) {
         std::cerr << "kwdraw: " << module.error() << '\n';

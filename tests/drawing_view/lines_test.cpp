@@ -339,21 +339,21 @@ TEST(Ground, TurnsColourSevenAgainstTheGround)
 {
     SceneLook look;
     look.isForeground = true;
-    EXPECT_EQ(Ground::of(true, false).painted(look), QColor(Qt::white));
-    EXPECT_EQ(Ground::of(false, false).painted(look), QColor(Qt::black));
-    EXPECT_EQ(Ground::of(true, true).painted(look), QColor(Qt::black)); // paper is white everywhere
+    EXPECT_EQ(Ground::of(ViewColors::Dark, false).painted(look), QColor(Qt::white));
+    EXPECT_EQ(Ground::of(ViewColors::Light, false).painted(look), QColor(Qt::black));
+    EXPECT_EQ(Ground::of(ViewColors::Dark, true).painted(look), QColor(Qt::black)); // paper is white everywhere
 }
 
 TEST(Ground, KeepsColoursThatStandOutAndChangesTheOthers)
 {
     SceneLook look;
     look.color = 0xFFFFFF00; // yellow
-    EXPECT_EQ(Ground::of(true, false).painted(look), QColor(Qt::yellow));
-    const QColor onWhite = Ground::of(false, false).painted(look);
+    EXPECT_EQ(Ground::of(ViewColors::Dark, false).painted(look), QColor(Qt::yellow));
+    const QColor onWhite = Ground::of(ViewColors::Light, false).painted(look);
     EXPECT_LT(onWhite.lightness(), QColor(Qt::yellow).lightness());
     EXPECT_GT(onWhite.red(), onWhite.blue()); // still a kind of yellow
     look.color = 0x80202428;
-    const QColor onDark = Ground::of(true, false).painted(look);
+    const QColor onDark = Ground::of(ViewColors::Dark, false).painted(look);
     EXPECT_GT(onDark.lightness(), 60);
     EXPECT_EQ(onDark.alpha(), 0x80);
 }

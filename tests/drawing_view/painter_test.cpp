@@ -18,7 +18,7 @@ ViewRequest requestFor(std::shared_ptr<const Scene> scene)
     request.scene = std::move(scene);
     request.size = {200, 100};
     request.place = {{100, 50}, 1.0};
-    request.isDark = true;
+    request.colors = ViewColors::Dark;
     return request;
 }
 

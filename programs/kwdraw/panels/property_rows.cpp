@@ -15,14 +15,14 @@ constexpr int kColor = 5011;
 constexpr int kReal = 5001;
 using Kind = PropertyRow::Kind;
 
-QString tr(const char* text)
+QString translated(const char* text)
 {
     return QCoreApplication::translate("PropertyPanel", text);
 }
 
 QString varying()
 {
-    return tr("*Varies*");
+    return translated(QT_TRANSLATE_NOOP("PropertyPanel", "*Varies*"));
 }
 
 void setValue(PropertyRow& row, const QString& text)
@@ -43,7 +43,7 @@ QString shown(const CatalogValue& value)
     const int index = color.colorIndex();
     const bool hasName = value.restype == kColor && color.colorMethod() == KdCmColor::kByACI &&
                          index >= 1 && index <= static_cast<int>(std::size(kNames));
-    return hasName ? QString("%1 (%2)").arg(text, tr(kNames[index - 1])) : text;
+    return hasName ? QString("%1 (%2)").arg(text, translated(kNames[index - 1])) : text;
 }
 
 QColor swatchOf(const CatalogValue& value)
@@ -105,8 +105,8 @@ void addProperty(PropertyRow& category, const MergedProperty& property)
     if (property.varies) {
         setValue(row, varying());
     } else if (values.size() > 1) {
-        setValue(row, QCoreApplication::translate("PropertyPanel", "%n values", nullptr,
-                                                  static_cast<int>(values.size())));
+        const auto count = static_cast<int>(values.size());
+        setValue(row, QCoreApplication::translate("PropertyPanel", "%n values", nullptr, count));
         addPoints(row);
     } else if (!values.empty()) {
         setValue(row, shown(values.front()));

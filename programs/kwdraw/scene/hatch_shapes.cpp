@@ -9,7 +9,7 @@
 namespace {
 
 /// A hatch with more lines is grey on any screen.
-constexpr std::size_t kMostLines = 50'000;
+constexpr std::size_t kMostLines = 50000;
 
 using Areas = std::vector<std::vector<std::size_t>>;
 

@@ -8,6 +8,7 @@
 #include <cmath>
 #include <utility>
 
+#include "contrast.h"
 #include "drawing_view_state.h"
 #include "layer_filter.h"
 #include "picture_showing.h"
@@ -47,6 +48,14 @@ SceneBox boxOf(const Scene& scene, std::vector<KdDbObjectId> ids)
         if (!item.box.isEmpty() && std::binary_search(ids.begin(), ids.end(), item.id))
             box.add(item.box);
     return box;
+}
+
+ViewColors colorsOf(const QPalette& palette)
+{
+    if (isHighContrast(palette))
+        return ViewColors::HighContrast;
+    const bool isDark = palette.color(QPalette::Window).lightness() < 128;
+    return isDark ? ViewColors::Dark : ViewColors::Light;
 }
 
 } // namespace
@@ -203,7 +212,7 @@ void DrawingView::refresh()
     request.size = size();
     request.pixelRatio = devicePixelRatioF();
     request.margin = static_cast<int>(std::lround(kMargin * request.pixelRatio));
-    request.isDark = palette().color(QPalette::Window).lightness() < 128;
+    request.colors = colorsOf(palette());
     m_state->painter.submit(request);
     update();
 }

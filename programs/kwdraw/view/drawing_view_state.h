@@ -68,6 +68,6 @@ struct DrawingView::State
     }
     Ground ground() const
     {
-        return Ground::of(request.isDark, request.scene && request.scene->isSheet);
+        return Ground::of(request.colors, request.scene && request.scene->isSheet);
     }
 };

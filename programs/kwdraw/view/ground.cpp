@@ -1,44 +1,31 @@
 #include "ground.h"
 
-#include <algorithm>
-#include <cmath>
+#include "contrast.h"
 
 namespace {
 
-double linear(int channel)
+Ground highContrast()
 {
-    const double value = channel / 255.0;
-    return value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
-}
-
-double luminance(const QColor& color)
-{
-    return 0.2126 * linear(color.red()) + 0.7152 * linear(color.green()) +
-           0.0722 * linear(color.blue());
-}
-
-/// 1 for none, 21 between black and white.
-double contrast(const QColor& first, const QColor& second)
-{
-    const double one = luminance(first);
-    const double other = luminance(second);
-    return (std::max(one, other) + 0.05) / (std::min(one, other) + 0.05);
-}
-
-QColor mixed(const QColor& first, const QColor& second, double part)
-{
-    const auto mix = [part](int a, int b) {
-        return static_cast<int>(std::lround(a + (b - a) * part));
-    };
-    return QColor(mix(first.red(), second.red()), mix(first.green(), second.green()),
-                  mix(first.blue(), second.blue()), first.alpha());
+    Ground ground;
+    ground.isDark = true;
+    ground.color = Qt::black;
+    ground.surround = QColor(0x38, 0x38, 0x38);
+    ground.foreground = Qt::white;
+    ground.highlighted = Qt::yellow;
+    ground.previewed = Qt::cyan;
+    ground.hovered = Qt::white;
+    ground.legible = 7.0;
+    return ground;
 }
 
 } // namespace
 
-Ground Ground::of(bool isDark, bool isSheet)
+Ground Ground::of(ViewColors colors, bool isSheet)
 {
+    if (colors == ViewColors::HighContrast)
+        return highContrast();
     Ground ground;
+    const bool isDark = colors == ViewColors::Dark;
     const bool darkColors = isDark && !isSheet;
     ground.isDark = darkColors;
     ground.color = darkColors ? QColor(0x1f, 0x23, 0x28) : QColor(0xff, 0xff, 0xff);
@@ -60,10 +47,9 @@ QColor Ground::painted(const SceneLook& look) const
         front.setAlpha(own.alpha());
         return front;
     }
-    constexpr double kLegible = 2.4;
     constexpr int kSteps = 10;
     QColor shown = own;
-    for (int step = 1; step <= kSteps && contrast(shown, color) < kLegible; ++step)
+    for (int step = 1; step <= kSteps && contrastOf(shown, color) < legible; ++step)
         shown = mixed(own, foreground, static_cast<double>(step) / kSteps);
     return shown;
 }

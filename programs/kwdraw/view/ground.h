@@ -5,6 +5,13 @@
 
 #include <kwdraw/scene/scene.h>
 
+enum class ViewColors
+{
+    Light,
+    Dark,
+    HighContrast, ///< white on black, sheets too; what is marked has a form of its own
+};
+
 struct Ground
 {
     QColor color;       ///< behind the drawing
@@ -14,9 +21,10 @@ struct Ground
     QColor previewed;
     QColor hovered;
     bool isDark = false;
+    double legible = 2.4; ///< the least contrast of what is drawn, 1 to 21
 
-    /// The model's ground in a dark or light window, or white paper.
-    static Ground of(bool isDark, bool isSheet);
+    /// The model's ground in windows of these colours, or a sheet's paper.
+    static Ground of(ViewColors colors, bool isSheet);
 
     /// The colour that a look is painted with: colour 7 and colours next to the ground's are
     /// changed until they stand out.

@@ -6,7 +6,7 @@
 void paintGround(QPainter& painter, const ViewRequest& now)
 {
     const bool isSheet = now.scene && now.scene->isSheet;
-    const Ground ground = Ground::of(now.isDark, isSheet);
+    const Ground ground = Ground::of(now.colors, isSheet);
     const bool hasEdge = isSheet && !now.scene->paper.isEmpty();
     painter.fillRect(QRectF(QPointF(0.0, 0.0), now.size), hasEdge ? ground.surround : ground.color);
 }

@@ -7,6 +7,7 @@
 
 #include "clipping.h"
 #include "fill_path.h"
+#include "grips.h"
 #include "halo.h"
 #include "layer_filter.h"
 #include "shape_painter.h"
@@ -19,11 +20,13 @@ using Rank = SceneIndex::Rank;
 constexpr double kClipMargin = 16.0;
 /// A halo reaches this far beyond what it is of.
 constexpr int kMarkMargin = 8;
+/// Of broken lines, in pixels of the widget.
+constexpr double kBrokenWidth = 3.0;
 
 PaintStyle styleOf(const ViewRequest& request, const QRect& part)
 {
     PaintStyle style;
-    style.ground = Ground::of(request.isDark, request.scene->isSheet);
+    style.ground = Ground::of(request.colors, request.scene->isSheet);
     style.lineweights = request.lineweights;
     style.pixelRatio = request.pixelRatio;
     style.viewHeight = request.size.height() * request.pixelRatio;
@@ -165,25 +168,48 @@ ViewPicture paintDrawing(const ViewRequest& request, const SceneIndex& index, Gl
     return picture;
 }
 
-/// Items that are marked in one colour.
+enum class MarkForm
+{
+    Halo,   ///< a soft border
+    Broken, ///< wide broken lines
+    Grips,  ///< the same with grips
+};
+
+/// Items that are marked in one way.
 struct MarkedItems
 {
     std::vector<std::uint32_t> items;
     QColor color;
+    MarkForm form = MarkForm::Halo;
 };
+
+/// Broken lines and grips of more items than this can't be told from each other and take long.
+constexpr std::size_t kMostWithForm = 5000;
+
+MarkForm formOf(const ViewRequest& request, const std::vector<std::uint32_t>& items, MarkForm form)
+{
+    const bool hasForm =
+        request.colors == ViewColors::HighContrast && items.size() <= kMostWithForm;
+    return hasForm ? form : MarkForm::Halo;
+}
 
 std::vector<MarkedItems> marksOf(ViewLayer layer, const ViewRequest& request,
                                  const SceneIndex& index)
 {
-    const Ground ground = Ground::of(request.isDark, request.scene->isSheet);
+    const Ground ground = Ground::of(request.colors, request.scene->isSheet);
     std::vector<MarkedItems> marks;
     if (layer == ViewLayer::Hover && request.hovered &&
         *request.hovered < request.scene->items.size())
         marks.push_back({{*request.hovered}, ground.hovered});
-    if (layer == ViewLayer::Marks && request.highlighted)
-        marks.push_back({index.itemsOf(*request.highlighted), ground.highlighted});
-    if (layer == ViewLayer::Marks && request.previewed)
-        marks.push_back({index.itemsOf(*request.previewed), ground.previewed});
+    const auto add = [&](const ViewRequest::Ids& ids, const QColor& color, MarkForm form) {
+        if (layer != ViewLayer::Marks || !ids)
+            return;
+        std::vector<std::uint32_t> items = index.itemsOf(*ids);
+        form = formOf(request, items, form);
+        marks.push_back({std::move(items), color, form});
+    };
+    add(request.highlighted, ground.highlighted, MarkForm::Grips);
+    add(request.previewed, ground.previewed, MarkForm::Broken);
     return marks;
 }
 
@@ -214,9 +240,9 @@ QRect reachOf(const std::vector<MarkedItems>& marks, const SceneIndex& index,
     return part.adjusted(-margin, -margin, margin, margin).intersected(whole);
 }
 
-void paintMarked(QPainter& painter, const MarkedItems& marked, const SceneIndex& index,
-                 QPoint corner, const ViewRequest& request, GlyphStore& glyphs,
-                 const std::atomic<bool>& cancelled)
+void paintMarked(QPainter& painter, const MarkedItems& marked, const MarkStyle& mark,
+                 const SceneIndex& index, QPoint corner, const ViewRequest& request,
+                 GlyphStore& glyphs, const std::atomic<bool>& cancelled)
 {
     PaintStyle style = styleOf(request, painter.window());
     const Scene& scene = *index.scene();
@@ -224,7 +250,7 @@ void paintMarked(QPainter& painter, const MarkedItems& marked, const SceneIndex&
                                                    : std::span<const LayerState>());
     const PixelFrame frame = frameOf(request, corner);
     const SceneBox visible = frame.unmapped(style.clip);
-    style.marked = marked.color;
+    style.marked = mark;
     ShapePainter shapes(painter, style, glyphs);
     shapes.enter(scene, frame, frame.scale());
     for (const std::uint32_t number : marked.items) {
@@ -241,6 +267,39 @@ void paintMarked(QPainter& painter, const MarkedItems& marked, const SceneIndex&
         }
     }
     shapes.flush();
+}
+
+void paintGrips(QPainter& painter, const MarkedItems& marked, const SceneIndex& index,
+                QPoint corner, const ViewRequest& request)
+{
+    const Scene& scene = *index.scene();
+    const Ground ground = Ground::of(request.colors, scene.isSheet);
+    const LayerFilter filter(scene, request.layers ? std::span<const LayerState>(*request.layers)
+                                                   : std::span<const LayerState>());
+    const PixelFrame frame = frameOf(request, corner);
+    const QRectF picture = painter.window();
+    for (const std::uint32_t number : marked.items) {
+        const SceneItem& item = scene.items[number];
+        if (!filter.shows(item))
+            continue;
+        for (const QPointF place : gripsOf(scene, item))
+            if (const QPointF pixel = frame.map(place); picture.contains(pixel))
+                paintGrip(painter, pixel, marked.color, ground.color, request.pixelRatio);
+    }
+}
+
+/// Lines in the colour of the ground, so that nothing is seen through the gaps of those above.
+void paintWithForm(QPainter& painter, const MarkedItems& marked, const SceneIndex& index,
+                   QPoint corner, const ViewRequest& request, GlyphStore& glyphs,
+                   const std::atomic<bool>& cancelled)
+{
+    const Ground ground = Ground::of(request.colors, index.scene()->isSheet);
+    const double width = kBrokenWidth * request.pixelRatio;
+    for (const MarkStyle& style :
+         {MarkStyle{ground.color, false, width}, MarkStyle{marked.color, true, width}})
+        paintMarked(painter, marked, style, index, corner, request, glyphs, cancelled);
+    if (marked.form == MarkForm::Grips)
+        paintGrips(painter, marked, index, corner, request);
 }
 
 ViewPicture paintMarks(ViewLayer layer, const ViewRequest& request, const SceneIndex& index,
@@ -260,9 +319,14 @@ ViewPicture paintMarks(ViewLayer layer, const ViewRequest& request, const SceneI
         {
             QPainter painter(&strokes);
             painter.setRenderHint(QPainter::Antialiasing);
-            paintMarked(painter, marked, index, picture.corner, request, glyphs, cancelled);
+            if (marked.form == MarkForm::Halo)
+                paintMarked(painter, marked, {marked.color}, index, picture.corner, request, glyphs,
+                            cancelled);
+            else
+                paintWithForm(painter, marked, index, picture.corner, request, glyphs, cancelled);
         }
-        addHalo(strokes, marked.color, request.pixelRatio);
+        if (marked.form == MarkForm::Halo)
+            addHalo(strokes, marked.color, request.pixelRatio);
         if (picture.image.isNull())
             picture.image = strokes;
         else

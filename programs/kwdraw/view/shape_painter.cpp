@@ -20,6 +20,9 @@ constexpr double kInchesPerLineweight = 1.0 / 2540.0;
 constexpr double kPixelsPerInch = 96.0;
 /// How much of the ground shows through an area that is marked.
 constexpr int kMarkedArea = 90;
+/// Of broken lines, in widths of the line.
+constexpr double kMarkDash = 2.5;
+constexpr double kMarkGap = 1.5;
 /// Lines wait for the painter until there are so many points.
 constexpr std::size_t kRunsKept = 20000;
 
@@ -59,8 +62,10 @@ void ShapePainter::enter(const Scene& scene, const PixelFrame& frame, double das
 
 ShapePainter::Pen ShapePainter::penOf(const SceneLook& look) const
 {
-    const QColor color = m_style.marked ? *m_style.marked : m_style.ground.painted(look);
-    return {color, penWidth(look, m_style)};
+    const double width = penWidth(look, m_style);
+    if (m_style.marked)
+        return {m_style.marked->color, std::max(width, m_style.marked->leastWidth)};
+    return {m_style.ground.painted(look), width};
 }
 
 void ShapePainter::usePen(const Pen& pen)
@@ -76,6 +81,10 @@ void ShapePainter::flush()
     if (m_runs.isEmpty())
         return;
     QPen pen(m_pen.color, m_pen.width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
+    if (m_style.marked && m_style.marked->isBroken) {
+        pen.setCapStyle(Qt::FlatCap);
+        pen.setDashPattern({kMarkDash, kMarkGap});
+    }
     m_painter.setPen(pen);
     m_lines.clear();
     for (std::size_t i = 0; i < m_runs.count(); ++i) {
@@ -98,7 +107,7 @@ void ShapePainter::paint(const SceneShape& shape)
     case SceneShape::Kind::Stroke:
         return paintStroke(shape);
     case SceneShape::Kind::Fill:
-        return paintFill(shape, fillColor(shape));
+        return paintFill(shape, fillBrush(shape));
     case SceneShape::Kind::Gradient:
         return paintGradient(shape);
     case SceneShape::Kind::Text:
@@ -110,13 +119,15 @@ void ShapePainter::paint(const SceneShape& shape)
     case SceneShape::Kind::Ray:
         return paintRay(shape);
     case SceneShape::Kind::Wipeout:
-        return paintFill(shape, m_style.marked ? fillColor(shape) : m_style.ground.color);
+        return paintFill(shape, m_style.marked ? fillBrush(shape) : QBrush(m_style.ground.color));
     }
 }
 
-QColor ShapePainter::fillColor(const SceneShape& shape) const
+QBrush ShapePainter::fillBrush(const SceneShape& shape) const
 {
     QColor color = m_pens[shape.look].color;
+    if (m_style.marked && m_style.marked->isBroken)
+        return {color, Qt::BDiagPattern};
     if (m_style.marked)
         color.setAlpha(kMarkedArea);
     return color;
@@ -233,7 +244,7 @@ void ShapePainter::paintFill(const SceneShape& shape, const QBrush& brush)
 void ShapePainter::paintGradient(const SceneShape& shape)
 {
     if (m_style.marked)
-        return paintFill(shape, fillColor(shape));
+        return paintFill(shape, fillBrush(shape));
     paintFill(shape, gradientBrush(m_scene->gradients[shape.index], shape.box, m_frame));
 }
 
@@ -242,7 +253,7 @@ void ShapePainter::paintImage(const SceneShape& shape)
     const SceneImage& image = m_scene->images[shape.index];
     if (m_style.marked || image.picture.isNull()) {
         if (m_style.marked)
-            paintFill(shape, fillColor(shape));
+            paintFill(shape, fillBrush(shape));
         return paintStroke(shape);
     }
     flush();

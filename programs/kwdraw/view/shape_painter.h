@@ -13,11 +13,20 @@
 #include "pixel_frame.h"
 #include "stroke_runs.h"
 
+/// How shapes are marked.
+struct MarkStyle
+{
+    QColor color; ///< the one for all
+    /// Lines are wide and broken, and areas hatched, so that no colour is needed to tell them.
+    bool isBroken = false;
+    double leastWidth = 1.0; ///< of lines, in pixels of the picture
+};
+
 /// What is the same for all shapes of a picture.
 struct PaintStyle
 {
     Ground ground;
-    std::optional<QColor> marked; ///< the one colour for all, of a picture that marks shapes
+    std::optional<MarkStyle> marked; ///< of a picture that marks shapes
     bool lineweights = false;
     double pixelRatio = 1.0; ///< pixels of the picture for one of the widget
     double viewHeight = 0.0; ///< of the widget, in pixels of the picture
@@ -63,7 +72,7 @@ class ShapePainter
     void paintFill(const SceneShape& shape, const QBrush& brush);
     void paintGradient(const SceneShape& shape);
     void paintImage(const SceneShape& shape);
-    QColor fillColor(const SceneShape& shape) const;
+    QBrush fillBrush(const SceneShape& shape) const;
 
     QPainter& m_painter;
     const PaintStyle& m_style;

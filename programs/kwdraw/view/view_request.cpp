@@ -28,7 +28,7 @@ bool sameButForPlace(ViewLayer layer, const ViewRequest& first, const ViewReques
 {
     const bool sameDrawing = first.scene == second.scene && first.size == second.size &&
                              first.pixelRatio == second.pixelRatio &&
-                             first.margin == second.margin && first.isDark == second.isDark &&
+                             first.margin == second.margin && first.colors == second.colors &&
                              first.lineweights == second.lineweights &&
                              first.layers == second.layers;
     switch (layer) {

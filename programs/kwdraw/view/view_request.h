@@ -11,6 +11,7 @@
 
 #include <kwdraw/scene/scene.h>
 
+#include "ground.h"
 #include "view_place.h"
 
 /// The pictures that lie on each other in a view, the lowest first.
@@ -31,7 +32,7 @@ struct ViewRequest
     QSizeF size;             ///< of the widget, in its own pixels
     double pixelRatio = 1.0; ///< pixels of the picture for one of the widget
     int margin = 0;          ///< around the widget, in pixels of the picture
-    bool isDark = false;
+    ViewColors colors = ViewColors::Light;
     bool lineweights = false;
     std::shared_ptr<const std::vector<LayerState>> layers; ///< null: as the drawing has them
     Ids highlighted;                                       ///< null: none

@@ -47,7 +47,7 @@ void BlockChooser::list(const KdDbDatabase& database)
         auto* item = new QListWidgetItem(
             QString::fromWCharArray(name.kwszPtr(), static_cast<int>(name.length())), m_blocks);
         item->setData(Qt::UserRole, QVariant::fromValue<qulonglong>(id.handle()));
-        item->setToolTip(tr("%1 objects").arg(block->entityIds().size()));
+        item->setToolTip(tr("%n objects", nullptr, static_cast<int>(block->entityIds().size())));
     }
     m_blocks->sortItems();
 }

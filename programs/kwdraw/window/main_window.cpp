@@ -218,7 +218,7 @@ void MainWindow::connectHost()
 {
     setMainWindow(this);
     setMainAppService(this);
-    kduiSetHelpViewer([this](const wchar_t*) { showHelp(HelpPage::QuickSelect, this); });
+    kduiSetHelpViewer([this](const wchar_t*) { showHelp("quick_select.md", this); });
     kdedSetUpdateDisplayHook([this] { m_view->update(); });
     kdutSetPrintSink([this](std::wstring_view text) {
         m_commandLine->print(QString::fromWCharArray(text.data(), static_cast<int>(text.size())));

@@ -129,7 +129,6 @@ class MainWindow : public QMainWindow, public MainAppService
     bool carryOutWithArgument(const QString& line);
     void endOrClear();
     void setLightColors(bool light);
-    void showKeys();
     void showAbout();
 
     const Module& m_module;

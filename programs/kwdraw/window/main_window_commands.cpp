@@ -6,16 +6,12 @@
 #include <QAction>
 #include <QCloseEvent>
 #include <QCoreApplication>
-#include <QDialog>
-#include <QDialogButtonBox>
 #include <QDockWidget>
 #include <QFileInfo>
 #include <QKeyEvent>
 #include <QMenu>
 #include <QMessageBox>
-#include <QTextBrowser>
 #include <QTimer>
-#include <QVBoxLayout>
 
 #include <common/nearest_name.h>
 #include <kwdraw/document/settings.h>
@@ -71,9 +67,9 @@ void MainWindow::connectCommands()
         // Later, since the line that a command is typed in keeps the keys until it has ended.
         QTimer::singleShot(0, m_layers, &LayerPanel::focusFilter);
     });
-    on.on(Command::Help, [this] { showHelp(HelpPage::Program, this); });
-    on.on(Command::QuickSelectHelp, [this] { showHelp(HelpPage::QuickSelect, this); });
-    on.on(Command::Keys, [this] { showKeys(); });
+    on.on(Command::Help, [this] { showHelp("kwdraw.md", this); });
+    on.on(Command::QuickSelectHelp, [this] { showHelp("quick_select.md", this); });
+    on.on(Command::Keys, [this] { showHelp("keys.md", this); });
     on.on(Command::About, [this] { showAbout(); });
     on.onToggled(Command::Lineweights, [this](bool shown) { m_view->setLineweightsShown(shown); });
     on.onToggled(Command::LightColors, [this](bool light) { setLightColors(light); });
@@ -199,24 +195,6 @@ void MainWindow::closeEvent(QCloseEvent* event)
     m_document.cancelBuilding();
     storeSettings();
     QMainWindow::closeEvent(event);
-}
-
-void MainWindow::showKeys()
-{
-    auto* window = new QDialog(this);
-    window->setObjectName("keysWindow");
-    window->setAttribute(Qt::WA_DeleteOnClose);
-    window->setWindowTitle(tr("Keys and Commands"));
-    window->resize(680, 620);
-    auto* text = new QTextBrowser;
-    text->setMarkdown(keyTable());
-    text->setFrameShape(QFrame::NoFrame);
-    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close);
-    connect(buttons, &QDialogButtonBox::rejected, window, &QDialog::close);
-    auto* layout = new QVBoxLayout(window);
-    layout->addWidget(text);
-    layout->addWidget(buttons);
-    window->show();
 }
 
 void MainWindow::showAbout()

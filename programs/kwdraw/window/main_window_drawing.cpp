@@ -156,9 +156,8 @@ void MainWindow::takeDrawing(const std::shared_ptr<OpenDrawing>& drawing)
     showWork();
     setWindowTitle(QFileInfo(drawing->path).fileName() + " - kwdraw");
     setWindowFilePath(drawing->path);
-    m_commandLine->say(tr("%1: %2 objects")
-                           .arg(QFileInfo(drawing->path).fileName())
-                           .arg(drawing->report.entities));
+    m_commandLine->say(tr("%1: %n objects", nullptr, static_cast<int>(drawing->report.entities))
+                           .arg(QFileInfo(drawing->path).fileName()));
     tellFindings();
     if (!m_wantedLayout.isEmpty() && !m_document.showSpace(m_wantedLayout))
         tellProblem(tr("The drawing has no layout \"%1\".").arg(m_wantedLayout));

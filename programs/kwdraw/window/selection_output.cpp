@@ -37,14 +37,15 @@ void SelectionOutput::copy(ExportFormat format, std::vector<std::string> columns
     ExportOptions options;
     options.format = format;
     options.columns = std::move(columns);
-    begin(tr("%1 objects are in the clipboard.").arg(ids.size())).toClipboard(ids, options);
+    begin(tr("%n objects are in the clipboard.", nullptr, static_cast<int>(ids.size())))
+        .toClipboard(ids, options);
 }
 
 void SelectionOutput::write(const QString& file, const ExportOptions& options)
 {
     const auto ids = m_document.selection().ids();
-    const QString done =
-        tr("%1 objects were written to %2.").arg(ids.size()).arg(QFileInfo(file).fileName());
+    const QString done = tr("%n objects were written to %1.", nullptr, static_cast<int>(ids.size()))
+                             .arg(QFileInfo(file).fileName());
     begin(done).toFile(ids, QFile::encodeName(file).toStdString(), options);
 }
 
