@@ -171,11 +171,11 @@ TEST_F(Painting, HidesWhatIsBehindAWipeout)
     EXPECT_TRUE(isGround(colorAt(100, 100)));
 }
 
-TEST_F(Painting, RunsGradientsAlongTheirAngle)
+TEST_F(Painting, RunsGradientsAlongTheirFrame)
 {
     SceneGradient gradient;
-    gradient.first = 0xFF000000;
-    gradient.second = 0xFFFFFFFF;
+    gradient.stops = {{0.0, 0xFF000000}, {1.0, 0xFFFFFFFF}};
+    gradient.placement = QTransform(100, 0, 0, 100, 50, 50);
     SceneMaker maker;
     maker.gradient(square(50, 50, 100), gradient);
     show(maker.finish());
@@ -185,21 +185,20 @@ TEST_F(Painting, RunsGradientsAlongTheirAngle)
     EXPECT_EQ(colorAt(100, 60), colorAt(100, 140));
 }
 
-TEST_F(Painting, RunsOtherGradientsToTheirMiddle)
+TEST_F(Painting, RunsRoundGradientsOutwardsFromTheirFirstStop)
 {
-    SceneGradient cylinder;
-    cylinder.form = SceneGradient::Form::Cylinder;
-    cylinder.inverted = true;
     SceneGradient radial;
     radial.form = SceneGradient::Form::Radial;
+    radial.stops = {{0.5, 0xFF000000}, {1.0, 0xFFFFFFFF}};
+    radial.placement = QTransform(50, 0, 0, 25, 250, 100); // an ellipse
     SceneMaker maker;
-    maker.gradient(square(0, 50, 100), cylinder);
     maker.gradient(square(200, 50, 100), radial);
     show(maker.finish());
-    EXPECT_LT(qRed(colorAt(50, 100)), 20); // white, black, white
-    EXPECT_GT(qRed(colorAt(98, 100)), 235);
-    EXPECT_LT(qRed(colorAt(250, 100)), 20); // black in the centre
-    EXPECT_GT(qRed(colorAt(202, 148)), 230);
+    EXPECT_LT(qRed(colorAt(250, 100)), 10);
+    EXPECT_LT(qRed(colorAt(272, 100)), 10);
+    EXPECT_GT(qRed(colorAt(250, 123)), 200); // across it is half as wide
+    EXPECT_GT(qRed(colorAt(298, 100)), 230);
+    EXPECT_GT(qRed(colorAt(202, 148)), 250);
 }
 
 TEST_F(Painting, DrawsImagesUpright)

@@ -146,45 +146,6 @@ TEST_F(HatchScenes, TooDensePatternsBecomeATranslucentFill)
     EXPECT_EQ(qAlpha(lookOf(*scene, shapes[0]).color), 255 / 3);
 }
 
-TEST_F(HatchScenes, GradientsRunFromColourToColour)
-{
-    const auto* hatch = add<KdDbHatch>([](HatchMembers& members) {
-        members.gradient = true;
-        members.solid = true;
-        members.gradientName = L"INVCYLINDER";
-        members.gradientAngle = 0.5;
-        members.gradientColors = {KdCmColor(0xC2102030), KdCmColor(0xC3000001)};
-        members.loops = {square(1)};
-    });
-    const auto scene = build();
-    const auto shapes = shapesOf(*scene, hatch);
-    ASSERT_THAT(shapes, SizeIs(1));
-    EXPECT_EQ(shapes[0].kind, Kind::Gradient);
-    const SceneGradient& gradient = scene->gradients.at(shapes[0].index);
-    EXPECT_EQ(gradient.form, SceneGradient::Form::Cylinder);
-    EXPECT_TRUE(gradient.inverted);
-    EXPECT_TRUE(gradient.centered);
-    EXPECT_EQ(gradient.angle, 0.5);
-    EXPECT_EQ(gradient.first, 0xFF102030);
-    EXPECT_EQ(gradient.second, 0xFFFF0000);
-}
-
-TEST_F(HatchScenes, GradientsOfOneColourRunToATint)
-{
-    add<KdDbHatch>([](HatchMembers& members) {
-        members.gradient = true;
-        members.oneColorGradient = true;
-        members.gradientTint = 1.0F;
-        members.gradientName = L"SPHERICAL";
-        members.gradientColors = {KdCmColor(0xC2102030)};
-        members.loops = {square(1)};
-    });
-    const auto scene = build();
-    ASSERT_THAT(scene->gradients, SizeIs(1));
-    EXPECT_EQ(scene->gradients[0].form, SceneGradient::Form::Radial);
-    EXPECT_EQ(scene->gradients[0].second, 0xFFFFFFFF);
-}
-
 TEST_F(HatchScenes, WithoutLoopsOrFillingThereIsNothing)
 {
     add<KdDbHatch>([](HatchMembers& members) { members.solid = true; });

@@ -1,29 +1,51 @@
-// Paints a drawing: paint_drawing <drawing> <picture.png> [width] [layout]
+// Paints all spaces of a drawing: paint_drawing <drawing> <folder> [width]
+#include <algorithm>
+#include <atomic>
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
 
+#include <QDir>
 #include <QFileInfo>
 #include <QGuiApplication>
 
 #include <exchange/drawing_reader.h>
 #include <kwdraw/scene/scene_builder.h>
-
-#include "scene_picture.h"
+#include <kwdraw/view/scene_painting.h>
 
 namespace {
 
-double secondsSince(std::chrono::steady_clock::time_point start)
+/// The whole scene, `width` pixels wide.
+QImage pictureOf(const std::shared_ptr<const Scene>& scene, int width)
 {
-    return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+    constexpr double kRoom = 1.05;
+    SceneBox box = scene->box;
+    if (scene->isSheet && !scene->paper.isEmpty())
+        box.add(scene->paper);
+    const double height = width * 0.75;
+    ViewRequest request;
+    request.scene = scene;
+    request.size = QSizeF(width, height);
+    request.place.center = box.center();
+    request.place.unitsPerPixel =
+        std::max({box.width() / width, box.height() / height, 1e-12}) * kRoom;
+    request.isDark = true;
+    SceneIndex::Models models;
+    for (const SceneWindow& window : scene->windows)
+        models.push_back(std::make_shared<SceneIndex>(window.model));
+    GlyphStore glyphs;
+    const std::atomic<bool> cancelled{false};
+    return paintLayer(ViewLayer::Drawing, request, SceneIndex(scene, models), glyphs, cancelled)
+        .image;
 }
 
-KdDbObjectId spaceOf(const KdDbDatabase& database, const char* layout)
+void paintSpace(const std::shared_ptr<const Scene>& scene, const QString& path, int width)
 {
-    if (!layout)
-        return database.modelSpaceId();
-    return KdDbLayoutManager().findBlock(QString::fromUtf8(layout).toStdWString().c_str(),
-                                         &database);
+    std::printf("%s: %zu items, %zu shapes, %zu points, %g %g .. %g %g\n", qPrintable(path),
+                scene->items.size(), scene->shapes.size(), scene->points.size(), scene->box.left,
+                scene->box.bottom, scene->box.right, scene->box.top);
+    if (!scene->box.isEmpty())
+        pictureOf(scene, width).save(path);
 }
 
 } // namespace
@@ -37,17 +59,19 @@ int main(int argc, char** argv)
     ReadReport report;
     if (readDrawing(argv[1], database, report, {}) != eOk)
         return 3;
-    const QString folder = QFileInfo(QString::fromLocal8Bit(argv[1])).path();
-    const auto start = std::chrono::steady_clock::now();
-    const auto model = buildScene(*database, database->modelSpaceId(), nullptr, {}, folder);
-    const KdDbObjectId space = spaceOf(*database, argc > 4 ? argv[4] : nullptr);
-    const auto scene = argc > 4 ? buildScene(*database, space, model, {}, folder) : model;
-    if (!scene)
-        return 3;
-    std::printf("%s: %zu items, %zu shapes, %zu points, %zu windows, %.3f s, %g %g .. %g %g\n",
-                argv[1], scene->items.size(), scene->shapes.size(), scene->points.size(),
-                scene->windows.size(), secondsSince(start), scene->box.left, scene->box.bottom,
-                scene->box.right, scene->box.top);
-    pictureOf(*scene, argc > 3 ? std::atoi(argv[3]) : 1200).save(QString::fromLocal8Bit(argv[2]));
+    const QFileInfo file(QString::fromLocal8Bit(argv[1]));
+    const QDir folder(QString::fromLocal8Bit(argv[2]));
+    const int width = argc > 3 ? std::atoi(argv[3]) : 1200;
+    const auto model = buildScene(*database, database->modelSpaceId(), nullptr, {}, file.path());
+    paintSpace(model, folder.filePath(file.completeBaseName() + QStringLiteral(".png")), width);
+    for (const KdDbObjectId id : database->table<KdDbBlockTable>().recordIds()) {
+        const OpenForRead<KdDbBlockTableRecord> block(id);
+        if (!block || !block->isLayout() || id == database->modelSpaceId())
+            continue;
+        const QString name = QStringLiteral("%1-%2.png")
+                                 .arg(file.completeBaseName())
+                                 .arg(QString::number(id.handle(), 16));
+        paintSpace(buildScene(*database, id, model, {}, file.path()), folder.filePath(name), width);
+    }
     return 0;
 }

@@ -1,9 +1,9 @@
 // Hatches and filled polygons.
 #include <algorithm>
 #include <numeric>
-#include <string_view>
 
 #include <kwdraw/scene/entity_shapes.h>
+#include <kwdraw/scene/hatch_gradients.h>
 #include <kwdraw/scene/hatch_paths.h>
 
 namespace {
@@ -37,25 +37,6 @@ void fillPlain(const HatchContent& hatch, EntityWalk& walk)
     fillAreas(hatch, walk, [&](const ScenePath& path) { walk.writer().fill(path); });
 }
 
-struct GradientRow
-{
-    std::wstring_view name;
-    SceneGradient::Form form;
-    bool inverted;
-};
-
-constexpr GradientRow kGradients[] = {
-    {L"LINEAR", SceneGradient::Form::Linear, false},
-    {L"CYLINDER", SceneGradient::Form::Cylinder, false},
-    {L"INVCYLINDER", SceneGradient::Form::Cylinder, true},
-    {L"SPHERICAL", SceneGradient::Form::Radial, false},
-    {L"INVSPHERICAL", SceneGradient::Form::Radial, true},
-    {L"HEMISPHERICAL", SceneGradient::Form::Radial, false},
-    {L"INVHEMISPHERICAL", SceneGradient::Form::Radial, true},
-    {L"CURVED", SceneGradient::Form::Linear, false},
-    {L"INVCURVED", SceneGradient::Form::Linear, true},
-};
-
 QRgb colorOf(const KdCmColor& color, EntityWalk& walk)
 {
     SceneLook look = walk.entityLook();
@@ -63,34 +44,16 @@ QRgb colorOf(const KdCmColor& color, EntityWalk& walk)
     return look.color;
 }
 
-/// A colour that runs to white with a tint of 1, and to black with 0.
-QRgb tinted(QRgb color, double tint)
-{
-    const double share = std::clamp(std::abs(2.0 * tint - 1.0), 0.0, 1.0);
-    const double goal = tint > 0.5 ? 255.0 : 0.0;
-    const auto mixed = [&](int part) {
-        return static_cast<int>(part * (1.0 - share) + goal * share + 0.5);
-    };
-    return qRgba(mixed(qRed(color)), mixed(qGreen(color)), mixed(qBlue(color)), qAlpha(color));
-}
-
 void fillGradient(const HatchContent& hatch, EntityWalk& walk)
 {
-    const auto* row = std::ranges::find_if(kGradients, [&](const GradientRow& candidate) {
-        return KdNameEqual()(hatch.gradientName, candidate.name);
+    const QRgb first = colorOf(hatch.gradientColors.front(), walk);
+    const QRgb second = hatch.oneColorGradient
+                            ? tinted(first, static_cast<double>(hatch.gradientTint))
+                            : colorOf(hatch.gradientColors.back(), walk);
+    const HatchGradient gradient = gradientOf(hatch, first, second);
+    fillAreas(hatch, walk, [&](const ScenePath& path) {
+        walk.writer().fill(path, gradient.colors, gradient.placement);
     });
-    SceneGradient gradient;
-    if (row != std::end(kGradients)) {
-        gradient.form = row->form;
-        gradient.inverted = row->inverted;
-    }
-    gradient.angle = hatch.gradientAngle;
-    gradient.centered = hatch.gradientShift == 0.0F;
-    gradient.first = colorOf(hatch.gradientColors.front(), walk);
-    gradient.second = hatch.oneColorGradient
-                          ? tinted(gradient.first, static_cast<double>(hatch.gradientTint))
-                          : colorOf(hatch.gradientColors.back(), walk);
-    fillAreas(hatch, walk, [&](const ScenePath& path) { walk.writer().fill(path, gradient); });
 }
 
 /// What a pattern looks like from far away.

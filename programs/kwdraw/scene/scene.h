@@ -86,21 +86,22 @@ struct SceneFont
     bool operator==(const SceneFont&) const = default;
 };
 
-/// Colours that run from one into the other across a filled path.
+/// Colours that run into each other across a filled path.
 struct SceneGradient
 {
     enum class Form : std::uint8_t
     {
-        Linear,
-        Cylinder, ///< there and back
-        Radial,   ///< from the centre outwards
+        Linear, ///< along the x axis of its own frame, from 0 to 1
+        Radial, ///< from the origin of its own frame outwards, to the distance 1
+    };
+    struct Stop
+    {
+        double place = 0.0; ///< from 0 to 1, rising; outside of all stops the nearest one counts
+        QRgb color = 0xFF000000;
     };
     Form form = Form::Linear;
-    bool inverted = false;
-    double angle = 0.0; ///< radians, counter-clockwise from the x axis
-    bool centered = true;
-    QRgb first = 0xFF000000;
-    QRgb second = 0xFFFFFFFF;
+    QTransform placement; ///< from its own frame
+    std::vector<Stop> stops;
 };
 
 struct SceneImage

@@ -161,13 +161,15 @@ void SceneWriter::fill(const ScenePath& path)
     addPath(SceneShape::Kind::Fill, path);
 }
 
-void SceneWriter::fill(const ScenePath& path, const SceneGradient& gradient)
+void SceneWriter::fill(const ScenePath& path, const SceneGradient& gradient,
+                       const KdGeMatrix3d& placement)
 {
     SceneShape* shape = addPath(SceneShape::Kind::Gradient, path);
     if (!shape)
         return;
     shape->index = static_cast<std::uint32_t>(m_scene.gradients.size());
     m_scene.gradients.push_back(gradient);
+    m_scene.gradients.back().placement = placed(placement);
 }
 
 void SceneWriter::wipeout(const ScenePath& path)

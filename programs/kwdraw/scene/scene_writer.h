@@ -68,7 +68,8 @@ class SceneWriter
 
     void stroke(const ScenePath& path);
     void fill(const ScenePath& path);
-    void fill(const ScenePath& path, const SceneGradient& gradient);
+    /// @param placement  from the gradient's own frame to that of the entity
+    void fill(const ScenePath& path, const SceneGradient& gradient, const KdGeMatrix3d& placement);
     void wipeout(const ScenePath& path);
     /// @param placement  from the text's own frame, see `SceneText`, to that of the entity
     void text(const QString& text, const SceneFont& font, const KdGeMatrix3d& placement);

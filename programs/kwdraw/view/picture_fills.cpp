@@ -8,13 +8,11 @@
 
 namespace {
 
-QGradientStops stopsOf(const SceneGradient& gradient)
+QBrush brushOf(QGradient gradient, const SceneGradient& colors)
 {
-    const QColor first = QColor::fromRgba(gradient.inverted ? gradient.second : gradient.first);
-    const QColor second = QColor::fromRgba(gradient.inverted ? gradient.first : gradient.second);
-    if (gradient.form == SceneGradient::Form::Cylinder)
-        return {{0.0, first}, {0.5, second}, {1.0, first}};
-    return {{0.0, first}, {1.0, second}};
+    for (const SceneGradient::Stop& stop : colors.stops)
+        gradient.setColorAt(stop.place, QColor::fromRgba(stop.color));
+    return gradient;
 }
 
 /// The pixels of an image from `first` up to `end`, a little more than lie between the parts.
@@ -26,23 +24,12 @@ void cover(double from, double to, int size, int& first, int& end)
 
 } // namespace
 
-QBrush gradientBrush(const SceneGradient& gradient, const SceneBox& box, const PixelFrame& frame)
+QBrush gradientBrush(const SceneGradient& gradient, const PixelFrame& frame)
 {
-    const QPointF along(std::cos(gradient.angle), std::sin(gradient.angle));
-    // One that is not centred has its light from the upper left.
-    const QPointF shift =
-        gradient.centered ? QPointF() : QPointF(-box.width() / 4.0, box.height() / 4.0);
-    const QPointF center = box.center() + shift;
-    if (gradient.form == SceneGradient::Form::Radial) {
-        const double radius = std::hypot(box.width(), box.height()) / 2.0 * frame.scale();
-        QRadialGradient brush(frame.map(center), radius);
-        brush.setStops(stopsOf(gradient));
-        return brush;
-    }
-    const double reach =
-        (std::abs(along.x()) * box.width() + std::abs(along.y()) * box.height()) / 2.0;
-    QLinearGradient brush(frame.map(center - along * reach), frame.map(center + along * reach));
-    brush.setStops(stopsOf(gradient));
+    QBrush brush = gradient.form == SceneGradient::Form::Radial
+                       ? brushOf(QRadialGradient(QPointF(0.0, 0.0), 1.0), gradient)
+                       : brushOf(QLinearGradient(0.0, 0.0, 1.0, 0.0), gradient);
+    brush.setTransform(frame.within(gradient.placement).toTransform());
     return brush;
 }
 

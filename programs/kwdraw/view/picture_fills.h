@@ -13,8 +13,7 @@
 #include "glyphs.h"
 #include "pixel_frame.h"
 
-/// @param box  of the path that is filled, in drawing units
-QBrush gradientBrush(const SceneGradient& gradient, const SceneBox& box, const PixelFrame& frame);
+QBrush gradientBrush(const SceneGradient& gradient, const PixelFrame& frame);
 
 /// Draws what `shown` (in pixels) lets see of an image.
 void drawPicture(QPainter& painter, const SceneImage& image, const PixelFrame& frame,

@@ -245,7 +245,7 @@ void ShapePainter::paintGradient(const SceneShape& shape)
 {
     if (m_style.marked)
         return paintFill(shape, fillBrush(shape));
-    paintFill(shape, gradientBrush(m_scene->gradients[shape.index], shape.box, m_frame));
+    paintFill(shape, gradientBrush(m_scene->gradients[shape.index], m_frame));
 }
 
 void ShapePainter::paintImage(const SceneShape& shape)
