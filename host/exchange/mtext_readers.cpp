@@ -14,6 +14,13 @@ constexpr int kFillOn = 1;
 constexpr int kFillWithBackground = 2;
 constexpr int kFrame = 16;
 
+void addColumnHeight(double height, MTextData& text)
+{
+    constexpr std::size_t kMostColumns = 1000;
+    if (text.columns.heights.size() < kMostColumns)
+        text.columns.heights.push_back(height);
+}
+
 /// Columns, since R2018 told by an embedded object.
 bool takeColumns(RecordReader& reader, MTextData& text)
 {
@@ -34,12 +41,9 @@ bool takeColumns(RecordReader& reader, MTextData& text)
     case 45:
         text.columns.gutter = reader.real();
         return true;
-    case 46: {
-        constexpr std::size_t kMostColumns = 1000;
-        if (text.columns.heights.size() < kMostColumns)
-            text.columns.heights.push_back(reader.real());
+    case 46:
+        addColumnHeight(reader.real(), text);
         return true;
-    }
     case 71:
         text.columns.type = static_cast<KdDb::MTextColumnType>(reader.shortInteger());
         return true;
@@ -51,8 +55,8 @@ bool takeColumns(RecordReader& reader, MTextData& text)
     }
 }
 
-/// Up to R2007 columns and the defined height are extended data: names, and pairs of a key and a
-/// value between them.
+/// Up to R2013 columns and the defined height are extended data: names, and pairs of a key and a
+/// value between them. Behind the number of heights stand these.
 void takeOldColumn(int key, const resbuf& value, MTextData& text)
 {
     constexpr short kReal = 1040;
@@ -75,6 +79,7 @@ void takeOldColumn(int key, const resbuf& value, MTextData& text)
 void takeOldColumns(const KdDbObject& object, MTextData& text)
 {
     constexpr short kName = 1000;
+    constexpr short kReal = 1040;
     constexpr short kInteger = 1070;
     bool isInside = false;
     const resbuf* end = nullptr;
@@ -88,6 +93,8 @@ void takeOldColumns(const KdDbObject& object, MTextData& text)
             const int key = record->resval.rint;
             record = record->rbnext;
             takeOldColumn(key, *record, text);
+        } else if (isInside && record->restype == kReal) {
+            addColumnHeight(record->resval.rreal, text);
         }
     }
 }

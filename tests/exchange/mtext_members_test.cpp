@@ -187,6 +187,11 @@ TEST(MText, HasColumnsAndAHeightOfExtendedDataInOldDrawings)
                                          {1040, "24.5"},
                                          {1070, "49"},
                                          {1040, "1.25"},
+                                         {1070, "50"},
+                                         {1070, "3"},
+                                         {1040, "7.5"},
+                                         {1040, "3.25"},
+                                         {1040, "0"},
                                          {1000, "ACAD_MTEXT_COLUMN_INFO_END"},
                                          {1000, "ACAD_MTEXT_DEFINED_HEIGHT_BEGIN"},
                                          {1070, "46"},
@@ -201,6 +206,7 @@ TEST(MText, HasColumnsAndAHeightOfExtendedDataInOldDrawings)
     EXPECT_EQ(text->columnCount(), 4);
     EXPECT_EQ(text->columnWidth(), 24.5);
     EXPECT_EQ(text->columnGutterWidth(), 1.25);
+    EXPECT_EQ(text->textData().columns.heights, (std::vector<double>{7.5, 3.25, 0.0}));
     EXPECT_EQ(text->height(), 12.5);
 }
 

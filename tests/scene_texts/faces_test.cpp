@@ -48,6 +48,23 @@ TEST(Face, IsPlainWhereTheStyleSaysNothing)
     EXPECT_EQ(faceOfFile(L"unknown.shx"), faceOf(nullptr));
 }
 
+TEST(Face, IsOfTrueTypeByItsNameOrItsFile)
+{
+    KdDbTextStyleTableRecord style;
+    EXPECT_FALSE(isTrueType(nullptr));
+    EXPECT_FALSE(isTrueType(&style));
+    style.edit().fileName = L"txt.shx";
+    style.edit().vertical = true;
+    EXPECT_FALSE(isTrueType(&style));
+    EXPECT_TRUE(isVertical(&style));
+    style.edit().fileName = L"Fonts\\ARIAL.TTF";
+    EXPECT_TRUE(isTrueType(&style));
+    EXPECT_FALSE(isVertical(&style));
+    style.edit().fileName = L"";
+    style.edit().typeface = L"Arial";
+    EXPECT_TRUE(isTrueType(&style));
+}
+
 TEST(Face, IsFoundForAnyNumberOfNames)
 {
     for (int i = 0; i < 5000; ++i) {

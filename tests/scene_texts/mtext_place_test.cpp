@@ -1,5 +1,6 @@
 #include "support.h"
 
+#include <database/database.h>
 #include <entities/mtext.h>
 
 namespace {
@@ -159,6 +160,15 @@ TEST_F(MTextPlace, FillsColumnsOfTheirOwnHeights)
     EXPECT_THAT(all[3].start, IsAt(33.0, 18.0 - 2.0 * kLine));
 }
 
+TEST_F(MTextPlace, HasNoMoreColumnsThanHaveHeights)
+{
+    text.edit().contents = L"a\\Pb\\Pc";
+    text.edit().columns = {KdDb::kDynamicColumns, 1, 20.0, 3.0, {2.5, 2.5}};
+    const auto all = shown(); // c has no room in either, and another font may be the reason
+    EXPECT_THAT(all[1].start, IsAt(33.0, 18.0));
+    EXPECT_THAT(all[2].start, IsAt(33.0, 18.0 - kLine));
+}
+
 TEST_F(MTextPlace, PlacesAllColumnsAboutItsLocation)
 {
     text.edit().contents = L"a\\Nb";
@@ -167,6 +177,25 @@ TEST_F(MTextPlace, PlacesAllColumnsAboutItsLocation)
     const auto all = shown();
     EXPECT_NEAR(all[0].end.x(), -14.0, kNear); // columns end at -14 and 10
     EXPECT_NEAR(all[1].end.x(), 10.0, kNear);
+}
+
+TEST_F(MTextPlace, OfTrueTypeFontsStaysLyingAndIsNotBroken)
+{
+    KdDbDatabase drawing;
+    auto* style = drawing.addRecord<KdDbTextStyleTable>(L"ARIAL");
+    KdDbTextStyleTableRecord* opened = nullptr;
+    ASSERT_EQ(kddbOpenObject(opened, style->objectId(), KdDb::kForWrite), eOk);
+    opened->edit().fileName = L"arial.ttf";
+    opened->close();
+    text.edit().style = style->objectId();
+    text.edit().flow = KdDb::kTopToBottom;
+    text.edit().width = 1.0;
+    text.edit().contents = L"Hand Hat\\PHat";
+    const auto all = shown();
+    ASSERT_THAT(all, SizeIs(2));
+    EXPECT_EQ(all[0].letters, "Hand Hat");
+    EXPECT_THAT(all[0].start, IsAt(10.0, 18.0));
+    EXPECT_THAT(all[1].start, IsAt(10.0, 18.0 - kLine));
 }
 
 TEST_F(MTextPlace, RunsDownInColumnsFromLeftToRight)

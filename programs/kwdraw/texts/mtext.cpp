@@ -37,7 +37,8 @@ MTextSetting settingOf(const MTextData& text, bool isDown)
     const Attachment attachment(text);
     MTextSetting setting;
     setting.textHeight = text.textHeight;
-    setting.width = isDown ? 0.0 : std::max(0.0, text.width); // lines that run down have no end
+    const bool hasEnd = !isDown && text.flow != KdDb::kTopToBottom; // lines that run down have none
+    setting.width = hasEnd ? std::max(0.0, text.width) : 0.0;
     setting.exactSpacing = text.lineSpacingStyle == KdDb::kExactly;
     if (text.lineSpacingFactor > 0.0)
         setting.lineSpacingFactor = std::clamp(text.lineSpacingFactor, kLeastSpacing, kMostSpacing);
@@ -51,7 +52,11 @@ MTextSetting settingOf(const MTextData& text, bool isDown)
         setting.columnHeight = text.height;
         setting.columnHeights = text.columns.heights;
         setting.columnCount = std::clamp<int>(text.columns.count, 1, kMostColumns);
-        setting.mostColumns = text.columns.type == KdDb::kStaticColumns ? setting.columnCount : 0;
+        // With other fonts a text whose columns end where its writer has put them may be longer.
+        const bool isFixed =
+            text.columns.type == KdDb::kStaticColumns || !text.columns.heights.empty();
+        const int heights = static_cast<int>(text.columns.heights.size());
+        setting.mostColumns = isFixed ? std::max(setting.columnCount, heights) : 0;
     }
     return setting;
 }
@@ -87,6 +92,15 @@ void writeGround(const MTextData& text, const SceneBox& letters, TextPen& pen)
         pen.box(kColorOfText, ground);
 }
 
+/// Letters of TrueType fonts stay side by side in lines that should run down.
+bool runsDown(const MTextData& text, bool isDownByStyle)
+{
+    if (text.flow != KdDb::kTopToBottom)
+        return text.flow == KdDb::kFlowByStyle && isDownByStyle;
+    const OpenForRead<KdDbTextStyleTableRecord> style(text.style);
+    return !isTrueType(style.get());
+}
+
 KdGeMatrix3d frameOf(const MTextData& text, bool isDown)
 {
     const KdGeMatrix3d frame = textFrame(text.location, text.direction, text.normal);
@@ -106,8 +120,7 @@ void writeMText(const MTextData& text, SceneWriter& writer)
         return;
     TextLook look = lookOfStyle(text.style);
     look.height = text.textHeight;
-    look.isDown =
-        text.flow == KdDb::kTopToBottom || (text.flow == KdDb::kFlowByStyle && look.isDown);
+    look.isDown = runsDown(text, look.isDown);
     MTextItems items = mtextItems(text.contents, look);
     const MTextSetting setting = settingOf(text, look.isDown);
     const MTextLayout layout = fittedLayout(items, setting, look.isDown ? 0.0 : text.actualHeight);

@@ -129,6 +129,12 @@ QString textOf(std::wstring_view text)
     return QString::fromWCharArray(text.data(), static_cast<int>(text.size()));
 }
 
+bool isTrueTypeFile(const QString& extension)
+{
+    return extension == QLatin1String("ttf") || extension == QLatin1String("otf") ||
+           extension == QLatin1String("ttc");
+}
+
 } // namespace
 
 TextFace faceOf(const KdDbTextStyleTableRecord* style)
@@ -154,8 +160,7 @@ TextFace faceOfFile(std::wstring_view fileName)
     const int dot = file.lastIndexOf(QLatin1Char('.'));
     const QString extension = dot < 0 ? QString() : file.mid(dot + 1).toLower();
     const QString name = file.left(dot).toLower();
-    if (extension != QLatin1String("ttf") && extension != QLatin1String("otf") &&
-        extension != QLatin1String("ttc"))
+    if (!isTrueTypeFile(extension))
         return faceOfShapeFont(extension == QLatin1String("shx") ? name : file.toLower());
     const auto row = std::ranges::find_if(
         kFiles, [&name](const FileRow& one) { return name == QLatin1String(one.file); });
@@ -164,7 +169,15 @@ TextFace faceOfFile(std::wstring_view fileName)
     return faceOfFamily(file.left(dot), false, false);
 }
 
+bool isTrueType(const KdDbTextStyleTableRecord* style)
+{
+    if (!style)
+        return false;
+    const QString file = textOf(style->fileName()).trimmed().toLower();
+    return !style->typeface().isEmpty() || isTrueTypeFile(file.section(QLatin1Char('.'), -1));
+}
+
 bool isVertical(const KdDbTextStyleTableRecord* style)
 {
-    return style && style->isVertical() && style->typeface().isEmpty();
+    return style && style->isVertical() && !isTrueType(style);
 }

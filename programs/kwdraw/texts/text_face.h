@@ -23,5 +23,6 @@ TextFace faceOf(const KdDbTextStyleTableRecord* style);
 TextFace faceOfFamily(std::wstring_view family, bool bold, bool italic);
 /// The face that stands for a shape font or a font file: "romans", "simplex.shx", "arialbd.ttf".
 TextFace faceOfFile(std::wstring_view fileName);
+bool isTrueType(const KdDbTextStyleTableRecord* style);
 /// True for a style whose letters stand one below the other, which shape fonts alone can.
 bool isVertical(const KdDbTextStyleTableRecord* style);
