@@ -32,6 +32,9 @@ ReadDrawing drawingWith(const Groups& filter)
                    {360, "32"},
                    {0, "SPATIAL_FILTER"},
                    {5, "32"},
+                   {102, "{ACAD_XDICTIONARY"},
+                   {360, "40"},
+                   {102, "}"},
                    {330, "31"},
                    {100, "AcDbFilter"},
                    {100, "AcDbSpatialFilter"}};
@@ -105,6 +108,64 @@ TEST(SpatialFilter, CanBeOff)
         ASSERT_TRUE(filter);
         EXPECT_EQ(filter->isEnabled(), on);
     }
+}
+
+/// A filter whose boundary hides its inside. Its own boundary shows much the same.
+ReadDrawing invertedDrawing(const char* comparedCorner)
+{
+    return drawingWith({{10, "0"},
+                        {20, "0"},
+                        {10, "9"},
+                        {20, "0"},
+                        {10, "9"},
+                        {20, "8"},
+                        {0, "DICTIONARY"},
+                        {5, "40"},
+                        {330, "32"},
+                        {3, "ACAD_XREC_ROUNDTRIP"},
+                        {360, "41"},
+                        {0, "XRECORD"},
+                        {5, "41"},
+                        {330, "40"},
+                        {100, "AcDbXrecord"},
+                        {280, "1"},
+                        {102, "ACAD_INVERTEDCLIP_ROUNDTRIP"},
+                        {10, "2"},
+                        {20, "3"},
+                        {30, "0"},
+                        {10, "5"},
+                        {20, "6"},
+                        {30, "0"},
+                        {102, "ACAD_INVERTEDCLIP_ROUNDTRIP_COMPARE"},
+                        {10, "0"},
+                        {20, "0"},
+                        {30, "0"},
+                        {10, "9"},
+                        {20, "0"},
+                        {30, "0"},
+                        {10, "9"},
+                        {20, comparedCorner},
+                        {30, "0"}});
+}
+
+TEST(SpatialFilter, RunsAroundWhatItHides)
+{
+    EXPECT_EQ(boundaryIn(invertedDrawing("8")), (std::vector<KdGePoint3d>{{2, 3, 0},
+                                                                          {5, 3, 0},
+                                                                          {5, 6, 0},
+                                                                          {2, 6, 0},
+                                                                          {2, 3, 0},
+                                                                          {0, 0, 0},
+                                                                          {9, 0, 0},
+                                                                          {9, 8, 0},
+                                                                          {0, 8, 0},
+                                                                          {0, 0, 0}}));
+}
+
+TEST(SpatialFilter, IsNoMoreInvertedAfterItsBoundaryHasChanged)
+{
+    EXPECT_EQ(boundaryIn(invertedDrawing("7")),
+              (std::vector<KdGePoint3d>{{0, 0, 0}, {9, 0, 0}, {9, 8, 0}}));
 }
 
 TEST(SpatialFilter, IsMissingOfMostReferences)

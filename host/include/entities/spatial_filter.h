@@ -27,7 +27,8 @@ class KW_EXPORT KdDbSpatialFilter : public KdDbObject
 
     /// False for a boundary that is switched off, and cuts nothing.
     bool isEnabled() const { return data().enabled; }
-    /// The corners of the boundary in the frame of the block, a rectangle with all four. A boundary
-    /// that hides its inside runs around the whole block as well. Empty for fewer than two corners.
+    /// The corners of the boundary in the frame of the block, a rectangle with all four. Around
+    /// what an inverted boundary hides it runs in one line, which goes from there to a box around
+    /// the block and back. Empty for fewer than two corners.
     std::vector<KdGePoint3d> boundaryInBlock() const;
 };
