@@ -1,5 +1,4 @@
 #include <ui/message_box_windows.h>
-#include <ui/theme.h>
 
 #include <QApplication>
 
@@ -12,6 +11,7 @@
 #include <kwdraw/document/settings.h>
 #include <kwdraw/document/user_language.h>
 #include <kwdraw/window/main_window.h>
+#include <kwdraw/window/theme.h>
 
 namespace {
 
@@ -32,7 +32,7 @@ std::optional<int> readOptions(int argc, char** argv, Options& options)
     app.add_option("--layout", options.layout, "the layout to show, \"Model\" or a sheet")
         ->needs(drawing);
     app.add_option("--colors", options.colors, "the colours of the windows")
-        ->check(CLI::IsMember({"dark", "light"}));
+        ->check(CLI::IsMember({"system", "light", "dark", "contrast"}));
     app.set_version_flag("--version", KW_VERSION);
     try {
         app.parse(argc, argv);
@@ -68,9 +68,8 @@ int main(int argc, char** argv)
         return kCannotWork;
     }
     restoreVariables();
-    if (!options.colors.empty())
-        setSwitch(L"COLORTHEME", options.colors == "light" ? 1 : 0);
-    kduiApplyColorTheme();
+    if (const auto theme = themeNamed(QString::fromStdString(options.colors)))
+        storeTheme(*theme);
     MainWindow window(module);
     window.show();
     if (!options.drawing.empty())

@@ -165,14 +165,6 @@
         <translation>&amp;Layer suchen</translation>
     </message>
     <message>
-        <source>Show Line&amp;weights</source>
-        <translation>L&amp;inienstärken anzeigen</translation>
-    </message>
-    <message>
-        <source>Light &amp;Colors</source>
-        <translation>&amp;Helle Farben</translation>
-    </message>
-    <message>
         <source>List the &amp;Values of Texts</source>
         <translation>We&amp;rte von Texten auflisten</translation>
     </message>
@@ -271,6 +263,50 @@
     <message>
         <source>Command line</source>
         <translation>Befehlszeile</translation>
+    </message>
+    <message>
+        <source>Show Linewei&amp;ghts</source>
+        <translation>L&amp;inienstärken anzeigen</translation>
+    </message>
+    <message>
+        <source>&amp;System</source>
+        <translation>&amp;System</translation>
+    </message>
+    <message>
+        <source>&amp;Light</source>
+        <translation>&amp;Hell</translation>
+    </message>
+    <message>
+        <source>&amp;Dark</source>
+        <translation>&amp;Dunkel</translation>
+    </message>
+    <message>
+        <source>&amp;High Contrast</source>
+        <translation>Hoher &amp;Kontrast</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Datei</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Bearbeiten</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Ansicht</translation>
+    </message>
+    <message>
+        <source>&amp;Export Selection</source>
+        <translation>Auswahl e&amp;xportieren</translation>
+    </message>
+    <message>
+        <source>&amp;Copy Selection</source>
+        <translation>Auswahl &amp;kopieren</translation>
+    </message>
+    <message>
+        <source>&amp;Theme</source>
+        <translation>Far&amp;ben</translation>
     </message>
 </context>
 <context>
@@ -467,30 +503,6 @@
     <message>
         <source>Command Line</source>
         <translation>Befehlszeile</translation>
-    </message>
-    <message>
-        <source>&amp;File</source>
-        <translation>&amp;Datei</translation>
-    </message>
-    <message>
-        <source>&amp;Edit</source>
-        <translation>&amp;Bearbeiten</translation>
-    </message>
-    <message>
-        <source>&amp;View</source>
-        <translation>&amp;Ansicht</translation>
-    </message>
-    <message>
-        <source>&amp;Help</source>
-        <translation>&amp;Hilfe</translation>
-    </message>
-    <message>
-        <source>&amp;Export Selection</source>
-        <translation>Auswahl e&amp;xportieren</translation>
-    </message>
-    <message>
-        <source>&amp;Copy Selection</source>
-        <translation>Auswahl &amp;kopieren</translation>
     </message>
     <message>
         <source>Open &amp;Recent</source>
@@ -857,6 +869,345 @@ Zeigt Zeichnungen und wählt ihre Objekte nach Eigenschaften aus.</translation>
     <message>
         <source>Writing the selection was given up.</source>
         <translation>Das Schreiben der Auswahl wurde abgebrochen.</translation>
+    </message>
+</context>
+<context>
+    <name>Sentences</name>
+    <message>
+        <source>Reading was cancelled.</source>
+        <translation>Das Lesen wurde abgebrochen.</translation>
+    </message>
+    <message>
+        <source>The file does not exist.</source>
+        <translation>Die Datei gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>The file can&apos;t be read: no permission.</source>
+        <translation>Die Datei lässt sich nicht lesen: keine Berechtigung.</translation>
+    </message>
+    <message>
+        <source>The file can&apos;t be read.</source>
+        <translation>Die Datei lässt sich nicht lesen.</translation>
+    </message>
+    <message>
+        <source>The file is a folder, not a drawing.</source>
+        <translation>Die Datei ist ein Ordner, keine Zeichnung.</translation>
+    </message>
+    <message>
+        <source>The file is no regular file.</source>
+        <translation>Die Datei ist keine gewöhnliche Datei.</translation>
+    </message>
+    <message>
+        <source>The file is empty.</source>
+        <translation>Die Datei ist leer.</translation>
+    </message>
+    <message>
+        <source>The file is no DXF drawing.</source>
+        <translation>Die Datei ist keine DXF-Zeichnung.</translation>
+    </message>
+    <message>
+        <source>The file is too large for the memory.</source>
+        <translation>Die Datei ist zu groß für den Speicher.</translation>
+    </message>
+    <message>
+        <source>The file is a DWG drawing (%1), which can&apos;t be read here. Save it as DXF.</source>
+        <translation>Die Datei ist eine DWG-Zeichnung (%1), die sich hier nicht lesen lässt. Speichern Sie sie als DXF.</translation>
+    </message>
+    <message>
+        <source>The file is a DWG drawing. Install the converter dwg2dxf on the path, or save it as DXF.</source>
+        <translation>Die Datei ist eine DWG-Zeichnung. Installieren Sie den Umwandler dwg2dxf im Pfad, oder speichern Sie sie als DXF.</translation>
+    </message>
+    <message>
+        <source>There is no folder to convert the DWG drawing in.</source>
+        <translation>Es gibt keinen Ordner, in dem sich die DWG-Zeichnung umwandeln ließe.</translation>
+    </message>
+    <message>
+        <source>The converter %1 can&apos;t be started.</source>
+        <translation>Der Umwandler %1 lässt sich nicht starten.</translation>
+    </message>
+    <message>
+        <source>The DWG drawing can&apos;t be converted: %1 ended with an error.</source>
+        <translation>Die DWG-Zeichnung lässt sich nicht umwandeln: %1 endete mit einem Fehler.</translation>
+    </message>
+    <message>
+        <source>Only entities that were read from a file can be written.</source>
+        <translation>Nur Objekte, die aus einer Datei gelesen wurden, lassen sich schreiben.</translation>
+    </message>
+    <message>
+        <source>The drawing is too large for the memory.</source>
+        <translation>Die Zeichnung ist zu groß für den Speicher.</translation>
+    </message>
+    <message>
+        <source>A group code was expected; the line was left out</source>
+        <translation>Ein Gruppencode wurde erwartet; die Zeile wurde ausgelassen</translation>
+    </message>
+    <message>
+        <source>A number is malformed; what could be read of it was used</source>
+        <translation>Eine Zahl ist fehlerhaft; was davon lesbar war, wurde verwendet</translation>
+    </message>
+    <message>
+        <source>A number is written with a decimal comma</source>
+        <translation>Eine Zahl ist mit einem Dezimalkomma geschrieben</translation>
+    </message>
+    <message>
+        <source>A handle is malformed; it counts as none</source>
+        <translation>Ein Handle ist fehlerhaft; es zählt als keines</translation>
+    </message>
+    <message>
+        <source>A text is too long; the rest of it was left out</source>
+        <translation>Ein Text ist zu lang; sein Rest wurde ausgelassen</translation>
+    </message>
+    <message>
+        <source>A record is too long; the rest of it was left out</source>
+        <translation>Ein Datensatz ist zu lang; sein Rest wurde ausgelassen</translation>
+    </message>
+    <message>
+        <source>The file ends before its end mark</source>
+        <translation>Die Datei endet vor ihrer Endmarke</translation>
+    </message>
+    <message>
+        <source>A section is not closed</source>
+        <translation>Ein Abschnitt ist nicht abgeschlossen</translation>
+    </message>
+    <message>
+        <source>A record stands outside of all sections; it was left out</source>
+        <translation>Ein Datensatz steht außerhalb aller Abschnitte; er wurde ausgelassen</translation>
+    </message>
+    <message>
+        <source>The code page is not known; ANSI_1252 was used</source>
+        <translation>Die Codepage ist nicht bekannt; ANSI_1252 wurde verwendet</translation>
+    </message>
+    <message>
+        <source>The texts are UTF-8 and not in the code page of the file; they were read as UTF-8</source>
+        <translation>Die Texte sind UTF-8 und nicht in der Codepage der Datei; sie wurden als UTF-8 gelesen</translation>
+    </message>
+    <message>
+        <source>An object has the handle 0; it was given a new one</source>
+        <translation>Ein Objekt hat das Handle 0; es bekam ein neues</translation>
+    </message>
+    <message>
+        <source>A handle is used twice; the second object was given a new one</source>
+        <translation>Ein Handle steht zweimal; das zweite Objekt bekam ein neues</translation>
+    </message>
+    <message>
+        <source>A name stands twice in a table; the first record counts</source>
+        <translation>Ein Name steht zweimal in einer Tabelle; der erste Eintrag zählt</translation>
+    </message>
+    <message>
+        <source>A table record or block has no name; it was given one</source>
+        <translation>Ein Tabelleneintrag oder Block hat keinen Namen; er bekam einen</translation>
+    </message>
+    <message>
+        <source>A layer is used and not defined; it was made with defaults</source>
+        <translation>Ein Layer wird verwendet und ist nicht definiert; er wurde mit Vorgaben angelegt</translation>
+    </message>
+    <message>
+        <source>A linetype is used and not defined; it was made with defaults</source>
+        <translation>Ein Linientyp wird verwendet und ist nicht definiert; er wurde mit Vorgaben angelegt</translation>
+    </message>
+    <message>
+        <source>A style is used and not defined; it was made with defaults</source>
+        <translation>Ein Stil wird verwendet und ist nicht definiert; er wurde mit Vorgaben angelegt</translation>
+    </message>
+    <message>
+        <source>A block is used and not defined</source>
+        <translation>Ein Block wird verwendet und ist nicht definiert</translation>
+    </message>
+    <message>
+        <source>The kind of an entity is not known; its general properties were read</source>
+        <translation>Die Art eines Objekts ist nicht bekannt; seine allgemeinen Eigenschaften wurden gelesen</translation>
+    </message>
+    <message>
+        <source>A vertex, attribute or sequence end follows nothing that it could belong to</source>
+        <translation>Ein Scheitelpunkt, Attribut oder Folgenende folgt auf nichts, wozu es gehören könnte</translation>
+    </message>
+    <message>
+        <source>A table is not closed</source>
+        <translation>Eine Tabelle ist nicht abgeschlossen</translation>
+    </message>
+    <message>
+        <source>A block is not closed</source>
+        <translation>Ein Block ist nicht abgeschlossen</translation>
+    </message>
+    <message>
+        <source>A header variable has no value of its kind; its default was kept</source>
+        <translation>Eine Kopfvariable hat keinen Wert ihrer Art; ihre Vorgabe blieb</translation>
+    </message>
+    <message>
+        <source>An object has no handle; it was given a new one</source>
+        <translation>Ein Objekt hat kein Handle; es bekam ein neues</translation>
+    </message>
+    <message>
+        <source>The owner that an object names is not in the drawing</source>
+        <translation>Der Besitzer, den ein Objekt nennt, ist nicht in der Zeichnung</translation>
+    </message>
+    <message>
+        <source>A block holds a reference that leads back to the block itself</source>
+        <translation>Ein Block enthält eine Referenz, die auf den Block selbst zurückführt</translation>
+    </message>
+    <message>
+        <source>The version of the drawing is not known</source>
+        <translation>Die Version der Zeichnung ist nicht bekannt</translation>
+    </message>
+    <message>
+        <source>A section of that name is not known; it was left out</source>
+        <translation>Ein Abschnitt dieses Namens ist nicht bekannt; er wurde ausgelassen</translation>
+    </message>
+    <message>
+        <source>A table record stands outside of its table; it was read all the same</source>
+        <translation>Ein Tabelleneintrag steht außerhalb seiner Tabelle; er wurde trotzdem gelesen</translation>
+    </message>
+    <message>
+        <source>A table record of that kind is not known; it was left out</source>
+        <translation>Ein Tabelleneintrag dieser Art ist nicht bekannt; er wurde ausgelassen</translation>
+    </message>
+    <message>
+        <source>no object type &quot;%1&quot;; did you mean &quot;%2&quot;? There are: %3</source>
+        <translation>kein Objekttyp „%1“; ist „%2“ gemeint? Es gibt: %3</translation>
+    </message>
+    <message>
+        <source>no object type &quot;%1&quot;; There are: %2</source>
+        <translation>kein Objekttyp „%1“; es gibt: %2</translation>
+    </message>
+    <message>
+        <source>no object type &quot;%1&quot;; the drawing holds none</source>
+        <translation>kein Objekttyp „%1“; die Zeichnung enthält keinen</translation>
+    </message>
+    <message>
+        <source>no property &quot;%1&quot;; did you mean &quot;%2&quot;? There are: %3</source>
+        <translation>keine Eigenschaft „%1“; ist „%2“ gemeint? Es gibt: %3</translation>
+    </message>
+    <message>
+        <source>no property &quot;%1&quot;; There are: %2</source>
+        <translation>keine Eigenschaft „%1“; es gibt: %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; names several properties; say one of: %2</source>
+        <translation>„%1“ nennt mehrere Eigenschaften; zur Wahl stehen: %2</translation>
+    </message>
+    <message>
+        <source>no operator &quot;%1&quot; for this property. There are: %2</source>
+        <translation>kein Operator „%1“ für diese Eigenschaft. Es gibt: %2</translation>
+    </message>
+    <message>
+        <source>no operator &quot;%1&quot; for this property</source>
+        <translation>kein Operator „%1“ für diese Eigenschaft</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no value for the property &quot;%2&quot;; it is true or false</source>
+        <translation>„%1“ ist kein Wert für die Eigenschaft „%2“; sie ist wahr oder falsch</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no value for the property &quot;%2&quot;; it is ByLayer, ByBlock, a name such as red, a number from 1 to 255, or red, green and blue as 255,128,0</source>
+        <translation>„%1“ ist kein Wert für die Eigenschaft „%2“; sie ist VonLayer, VonBlock, ein Name wie rot, eine Zahl von 1 bis 255, oder Rot, Grün und Blau als 255,128,0</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no value for the property &quot;%2&quot;</source>
+        <translation>„%1“ ist kein Wert für die Eigenschaft „%2“</translation>
+    </message>
+    <message>
+        <source>a property is needed before &quot;%1&quot;</source>
+        <translation>vor „%1“ fehlt eine Eigenschaft</translation>
+    </message>
+    <message>
+        <source>there is no bracket that this one closes</source>
+        <translation>es gibt keine Klammer, die diese schließt</translation>
+    </message>
+    <message>
+        <source>here &quot;and&quot;, &quot;or&quot; or the end is expected</source>
+        <translation>hier wird „and“, „or“ oder das Ende erwartet</translation>
+    </message>
+    <message>
+        <source>the brackets go too deep</source>
+        <translation>die Klammern sind zu tief verschachtelt</translation>
+    </message>
+    <message>
+        <source>this bracket is never closed</source>
+        <translation>diese Klammer wird nicht geschlossen</translation>
+    </message>
+    <message>
+        <source>the name of a filter is expected behind &quot;@&quot;</source>
+        <translation>hinter „@“ wird der Name eines Filters erwartet</translation>
+    </message>
+    <message>
+        <source>behind a quoted name a colon or an operator is expected</source>
+        <translation>hinter einem Namen in Anführungszeichen wird ein Doppelpunkt oder ein Operator erwartet</translation>
+    </message>
+    <message>
+        <source>a type or a property is expected here</source>
+        <translation>hier wird ein Typ oder eine Eigenschaft erwartet</translation>
+    </message>
+    <message>
+        <source>a value is expected behind the operator; the empty text is &quot;&quot;</source>
+        <translation>hinter dem Operator wird ein Wert erwartet; der leere Text ist &quot;&quot;</translation>
+    </message>
+    <message>
+        <source>this quote is never closed</source>
+        <translation>dieses Anführungszeichen wird nicht geschlossen</translation>
+    </message>
+    <message>
+        <source>a filter stands on one line</source>
+        <translation>ein Filter steht in einer Zeile</translation>
+    </message>
+    <message>
+        <source>there is no filter &quot;%1&quot;</source>
+        <translation>es gibt keinen Filter „%1“</translation>
+    </message>
+    <message>
+        <source>there is a filter &quot;%1&quot; already</source>
+        <translation>es gibt schon einen Filter „%1“</translation>
+    </message>
+    <message>
+        <source>the filter &quot;%1&quot; names itself</source>
+        <translation>der Filter „%1“ nennt sich selbst</translation>
+    </message>
+    <message>
+        <source>the filter &quot;%1&quot; names &quot;%2&quot;</source>
+        <translation>der Filter „%1“ nennt „%2“</translation>
+    </message>
+    <message>
+        <source>the space can&apos;t be read</source>
+        <translation>der Bereich lässt sich nicht lesen</translation>
+    </message>
+    <message>
+        <source>the space can&apos;t be searched</source>
+        <translation>der Bereich lässt sich nicht durchsuchen</translation>
+    </message>
+    <message>
+        <source>the space holds no objects</source>
+        <translation>der Bereich enthält keine Objekte</translation>
+    </message>
+    <message>
+        <source>nothing is selected</source>
+        <translation>nichts ist ausgewählt</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; can&apos;t be searched for</source>
+        <translation>nach „%1“ lässt sich nicht suchen</translation>
+    </message>
+    <message>
+        <source>values of this kind can&apos;t be compared by &quot;%1&quot;</source>
+        <translation>Werte dieser Art lassen sich nicht mit „%1“ vergleichen</translation>
+    </message>
+    <message>
+        <source>The search was over objects that were picked by hand; this is its filter.</source>
+        <translation>Gesucht wurde in Objekten, die von Hand gewählt waren; dies ist der Filter dazu.</translation>
+    </message>
+    <message>
+        <source>The search was over a selection that was made by hand; this is its filter.</source>
+        <translation>Gesucht wurde in einer Auswahl von Hand; dies ist der Filter dazu.</translation>
+    </message>
+    <message>
+        <source>The search added to a selection that was made by hand; this is its filter.</source>
+        <translation>Die Suche ergänzte eine Auswahl von Hand; dies ist der Filter dazu.</translation>
+    </message>
+    <message>
+        <source>The searches had several tolerances; this is the filter of the last one.</source>
+        <translation>Die Suchen hatten mehrere Toleranzen; dies ist der Filter der letzten.</translation>
+    </message>
+    <message>
+        <source>No filter that can be typed finds the same in this drawing.</source>
+        <translation>Kein Filter, der sich eingeben lässt, findet dasselbe in dieser Zeichnung.</translation>
     </message>
 </context>
 <context>

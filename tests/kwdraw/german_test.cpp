@@ -5,15 +5,14 @@
 
 #include <QDialogButtonBox>
 #include <QFile>
-#include <QKeySequence>
 #include <QLibraryInfo>
-#include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QTimer>
 
 #include <optional>
 
+#include <kwdraw/document/sentences.h>
 #include <kwdraw/document/user_language.h>
 #include <kwdraw/panels/saved_filters.h>
 
@@ -59,13 +58,7 @@ TEST_F(German, NamesMenusAndCommands)
 
 TEST_F(German, HasNoLetterToPressTwiceInAMenu)
 {
-    for (QMenu* menu : window->menuBar()->findChildren<QMenu*>() + window->findChildren<QMenu*>()) {
-        QStringList letters;
-        for (const QString& text : textsOf(menu->actions()))
-            if (const QKeySequence letter = QKeySequence::mnemonic(text); !letter.isEmpty())
-                letters << letter.toString();
-        EXPECT_EQ(letters.removeDuplicates(), 0) << menu->title().toStdString();
-    }
+    EXPECT_EQ(doubledLetters(*window), QStringList());
 }
 
 TEST_F(German, TellsWhatWasDone)
@@ -101,6 +94,35 @@ TEST_F(German, FiltersByNamesOfTypesInTheSameLanguage)
     auto* filters = window->findChild<SavedFilters*>();
     emit filters->runRequested("Kreis: Radius > 5");
     EXPECT_THAT(selectedHandles(), testing::UnorderedElementsAre(0xA1, 0xA2, 0xA3));
+}
+
+TEST_F(German, TellsWhyADrawingCantBeOpened)
+{
+    open(pathOf("missing.dxf"));
+    EXPECT_THAT(bar("problemBar").text().toStdString(),
+                HasSubstr("lässt sich nicht öffnen: Die Datei gibt es nicht."));
+}
+
+TEST_F(German, TellsWhatIsWrongWithAFilter)
+{
+    EXPECT_EQ(inUserLanguage("no property \"Radus\"; did you mean \"Radius\"? There are: A, B\n"
+                             "  Circle: Radus > 5\n  ^"),
+              "keine Eigenschaft „Radus“; ist „Radius“ gemeint? Es gibt: A, B\n"
+              "  Circle: Radus > 5\n  ^");
+    EXPECT_EQ(inUserLanguage("there is no filter \"%2 100%\""), "es gibt keinen Filter „%2 100%“");
+    EXPECT_EQ(inUserLanguage("something else"), "something else");
+}
+
+TEST_F(German, KnowsEverySentenceOnWhatIsFoundInAFile)
+{
+    for (int number = 1; *drawingFindingSentence(static_cast<DrawingFinding>(number)); ++number) {
+        const std::wstring english = drawingFindingSentence(static_cast<DrawingFinding>(number));
+        const ReadFinding finding{number, 1, 0, KdString((english + L": \"X\"").c_str())};
+        const QString german = sentenceOf(finding);
+        EXPECT_FALSE(german.startsWith(QString::fromStdWString(english))) << number;
+        EXPECT_TRUE(german.endsWith(": \"X\"")) << number;
+    }
+    EXPECT_STRNE(drawingFindingSentence(DrawingFinding::RecordOutsideTable), L"");
 }
 
 TEST_F(German, ShowsTheButtonsOfQtTranslatedWhereQtIs)

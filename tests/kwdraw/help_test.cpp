@@ -170,7 +170,7 @@ TEST_F(Help, ShowsItsPicturesInTheColoursOfTheWindow)
     };
     EXPECT_EQ(shown(), dark);
     press(Qt::Key_F1);
-    action(Command::LightColors).trigger();
+    action(Command::LightTheme).trigger();
     EXPECT_EQ(shown(), light);
 }
 

@@ -45,6 +45,11 @@ TEST_F(Language, IsEnglishWhereThereIsNoOther)
     EXPECT_EQ(open(), "&Open...");
 }
 
+TEST_F(Language, HasNoLetterToPressTwiceInAMenu)
+{
+    EXPECT_EQ(doubledLetters(*window), QStringList());
+}
+
 TEST_F(Language, CountsOneObjectInEnglish)
 {
     const Translation translation;

@@ -2,7 +2,6 @@
 #include <ui/color_dialog.h>
 #include <ui/message_box_windows.h>
 #include <ui/mru_combos.h>
-#include <ui/theme.h>
 #include <ui/widgets.h>
 
 #include <QApplication>
@@ -18,8 +17,8 @@
 #include <functional>
 
 #include <common/module.h>
-#include <kwdraw/document/settings.h>
 #include <kwdraw/window/main_window.h>
+#include <kwdraw/window/theme.h>
 #include <platform/resources.h>
 
 namespace {
@@ -177,8 +176,7 @@ int main(int argc, char** argv)
         std::fprintf(stderr, "program_pictures: %s\n", module.error().c_str());
         return 2;
     }
-    setSwitch(L"COLORTHEME", QString(argv[4]) == "light" ? 1 : 0);
-    kduiApplyColorTheme();
+    storeTheme(*themeNamed(argv[4]));
     MainWindow window(module);
     window.show();
     window.openFile(argv[1]);

@@ -2,7 +2,9 @@
 
 #include <QComboBox>
 #include <QFile>
+#include <QKeySequence>
 #include <QLineEdit>
+#include <QMenu>
 #include <QMouseEvent>
 #include <QPlainTextEdit>
 #include <QTimer>
@@ -116,6 +118,21 @@ void writeFile(const QString& path, const QByteArray& content)
     QFile file(path);
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     ASSERT_EQ(file.write(content), content.size());
+}
+
+QStringList doubledLetters(QWidget& window)
+{
+    QStringList doubled;
+    for (const QMenu* menu : window.findChildren<QMenu*>()) {
+        QStringList letters;
+        for (const QAction* action : menu->actions()) {
+            const QString letter = QKeySequence::mnemonic(action->text()).toString();
+            if (!letter.isEmpty() && letters.contains(letter))
+                doubled << menu->title() + ": " + letter;
+            letters << letter;
+        }
+    }
+    return doubled;
 }
 
 const QString& settingsFolder()

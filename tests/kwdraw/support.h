@@ -89,6 +89,9 @@ class WindowTest : public testing::Test
     QTemporaryDir m_folder;
 };
 
+/// Letters that open two entries of one menu of the window, with the menu's title in front.
+QStringList doubledLetters(QWidget& window);
+
 /// The folder of settings that a test runs with; made anew for each.
 const QString& settingsFolder();
 

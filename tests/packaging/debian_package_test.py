@@ -59,6 +59,9 @@ class DebianPackages(unittest.TestCase):
         for library in ("libc6", "libqt5core5a", "libqt5widgets5", "libocct-foundation"):
             self.assertIn(library, wanted)
 
+    def test_recommend_the_texts_of_qt(self):
+        self.assertEqual(self.field("Recommends"), "qttranslations5-l10n")
+
     def test_of_the_sdk_asks_for_the_libraries_of_its_own_version(self):
         self.assertEqual(self.field("Depends", "kwqselect-dev"),
                          f"kwqselect (= {self.field('Version')}), qtbase5-dev")
@@ -70,6 +73,7 @@ class DebianPackages(unittest.TestCase):
     def test_hold_programs_module_texts_pages_and_completions(self):
         for name in ("bin/kwselect", "lib/kwqselect/KwQselectUtil.so",
                      "lib/kwqselect/resources/en/KwQselectUtilRes.so",
+                     "lib/kwqselect/resources/de/kwdraw.qm",
                      "share/man/man1/kwselect.1", "share/bash-completion/completions/kwselect",
                      "share/zsh/vendor-completions/_kwselect",
                      "share/fish/vendor_completions.d/kwselect.fish",

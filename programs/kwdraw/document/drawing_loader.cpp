@@ -9,6 +9,7 @@
 
 #include <common/drawing_reading.h>
 #include <database/goodbye.h>
+#include <kwdraw/document/sentences.h>
 #include <kwdraw/scene/scene_builder.h>
 
 namespace {
@@ -147,7 +148,7 @@ void DrawingLoader::end()
     else if (outcome->status == eOk)
         emit loaded(outcome->drawing);
     else
-        emit failed(path,
-                    tr("%1 can't be opened: %2")
-                        .arg(QFileInfo(path).fileName(), textOf(outcome->drawing->report.error)));
+        emit failed(path, tr("%1 can't be opened: %2")
+                              .arg(QFileInfo(path).fileName(),
+                                   inUserLanguage(textOf(outcome->drawing->report.error))));
 }

@@ -12,6 +12,8 @@
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
+#include <kwdraw/document/sentences.h>
+
 namespace {
 
 enum Column
@@ -282,7 +284,7 @@ void SavedFilters::takeName(QTreeWidgetItem* item)
     std::string problem;
     if (m_file.rename(before.toStdWString(), typed.toStdWString(), problem))
         item->setData(kName, kNameRole, typed);
-    tell(QString::fromStdString(problem));
+    tell(inUserLanguage(QString::fromStdString(problem)));
     // The editor still stands in the list.
     QTimer::singleShot(0, this, &SavedFilters::list);
 }
@@ -302,5 +304,5 @@ void SavedFilters::remove()
 void SavedFilters::keepOrTell(bool isDone, const std::string& problem)
 {
     list();
-    tell(isDone ? QString() : QString::fromStdString(problem));
+    tell(isDone ? QString() : inUserLanguage(QString::fromStdString(problem)));
 }

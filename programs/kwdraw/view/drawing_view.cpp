@@ -8,7 +8,6 @@
 #include <cmath>
 #include <utility>
 
-#include "contrast.h"
 #include "drawing_view_state.h"
 #include "layer_filter.h"
 #include "picture_showing.h"
@@ -48,14 +47,6 @@ SceneBox boxOf(const Scene& scene, std::vector<KdDbObjectId> ids)
         if (!item.box.isEmpty() && std::binary_search(ids.begin(), ids.end(), item.id))
             box.add(item.box);
     return box;
-}
-
-ViewColors colorsOf(const QPalette& palette)
-{
-    if (isHighContrast(palette))
-        return ViewColors::HighContrast;
-    const bool isDark = palette.color(QPalette::Window).lightness() < 128;
-    return isDark ? ViewColors::Dark : ViewColors::Light;
 }
 
 } // namespace
@@ -212,7 +203,7 @@ void DrawingView::refresh()
     request.size = size();
     request.pixelRatio = devicePixelRatioF();
     request.margin = static_cast<int>(std::lround(kMargin * request.pixelRatio));
-    request.colors = colorsOf(palette());
+    request.colors = viewColorsOf(palette());
     m_state->painter.submit(request);
     update();
 }
@@ -257,6 +248,8 @@ void DrawingView::paintEvent(QPaintEvent*)
         const QPointF start = pixelAt(place(), size(), m_state->boxStart);
         paintBox(painter, start, m_state->cursor, m_state->ground().isDark);
     }
+    if (m_state->request.colors == ViewColors::HighContrast && hasFocus())
+        paintFocus(painter, rect(), m_state->ground().highlighted);
 }
 
 void DrawingView::resizeEvent(QResizeEvent*)

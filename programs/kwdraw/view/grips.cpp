@@ -7,23 +7,23 @@ namespace {
 /// Longer paths have so many ends that their grips would hide them.
 constexpr std::uint32_t kMostSteps = 12;
 
-std::vector<QPointF> endsOf(const PathView& path)
+std::vector<Grip> endsOf(const PathView& path)
 {
-    std::vector<QPointF> ends;
+    std::vector<Grip> ends;
     std::size_t next = 0;
     for (const PathStep step : path.steps) {
         next += pointsOf(step);
         if (next > path.points.size())
             break;
         if (step != PathStep::Close)
-            ends.push_back(path.points[next - 1]);
+            ends.push_back({path.points[next - 1], {}});
     }
     return ends;
 }
 
 } // namespace
 
-std::vector<QPointF> gripsOf(const Scene& scene, const SceneItem& item)
+std::vector<Grip> gripsOf(const Scene& scene, const SceneItem& item)
 {
     if (item.shapeCount == 1) {
         const SceneShape& shape = scene.shapesOf(item).front();
@@ -33,8 +33,10 @@ std::vector<QPointF> gripsOf(const Scene& scene, const SceneItem& item)
     const SceneBox& box = item.box;
     if (box.isEmpty())
         return {};
-    return {
-        {box.left, box.bottom}, {box.right, box.bottom}, {box.right, box.top}, {box.left, box.top}};
+    return {{{box.left, box.bottom}, {-1.0, 1.0}},
+            {{box.right, box.bottom}, {1.0, 1.0}},
+            {{box.right, box.top}, {1.0, -1.0}},
+            {{box.left, box.top}, {-1.0, -1.0}}};
 }
 
 void paintGrip(QPainter& painter, QPointF pixel, const QColor& color, const QColor& edge,

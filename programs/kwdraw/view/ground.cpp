@@ -20,6 +20,14 @@ Ground highContrast()
 
 } // namespace
 
+ViewColors viewColorsOf(const QPalette& palette)
+{
+    if (isHighContrast(palette))
+        return ViewColors::HighContrast;
+    const bool isDark = palette.color(QPalette::Window).lightness() < 128;
+    return isDark ? ViewColors::Dark : ViewColors::Light;
+}
+
 Ground Ground::of(ViewColors colors, bool isSheet)
 {
     if (colors == ViewColors::HighContrast)

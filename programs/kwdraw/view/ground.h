@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QColor>
+#include <QPalette>
 
 #include <kwdraw/scene/scene.h>
 
@@ -11,6 +12,9 @@ enum class ViewColors
     Dark,
     HighContrast, ///< white on black, sheets too; what is marked has a form of its own
 };
+
+/// Those that go with the colours of windows.
+ViewColors viewColorsOf(const QPalette& palette);
 
 struct Ground
 {

@@ -34,6 +34,15 @@ void showPicture(QPainter& painter, const ViewPicture& picture, const ViewReques
     painter.drawImage(shown, picture.image, part);
 }
 
+void paintFocus(QPainter& painter, const QRect& widget, const QColor& color)
+{
+    constexpr int kWidth = 3;
+    QRegion frame(widget);
+    frame -= widget.adjusted(kWidth, kWidth, -kWidth, -kWidth);
+    for (const QRect& side : frame)
+        painter.fillRect(side, color);
+}
+
 void paintBox(QPainter& painter, QPointF start, QPointF corner, bool isDark)
 {
     const bool isWindow = corner.x() >= start.x();

@@ -12,6 +12,9 @@ void paintGround(QPainter& painter, const ViewRequest& now);
 /// it shows another scene.
 void showPicture(QPainter& painter, const ViewPicture& picture, const ViewRequest& now);
 
+/// A thick frame along the inner edge of a widget that has the keys.
+void paintFocus(QPainter& painter, const QRect& widget, const QColor& color);
+
 /// A box that the user draws from `start` to `corner`: a window to the right, a crossing to the
 /// left.
 void paintBox(QPainter& painter, QPointF start, QPointF corner, bool isDark);

@@ -6,6 +6,7 @@
 #include "glyphs.h"
 #include "pixel_frame.h"
 #include "scene_index.h"
+#include "shape_painter.h"
 #include "view_request.h"
 
 /// Paints one of the pictures of a request; the index is of its scene.
@@ -16,3 +17,8 @@ ViewPicture paintLayer(ViewLayer layer, const ViewRequest& request, const SceneI
 /// From the scene of a request to the pixels of its picture, or of a part that has its corner
 /// there.
 PixelFrame frameOf(const ViewRequest& request, QPoint corner = {});
+
+/// How shapes are painted that fall into a part of the picture.
+PaintStyle styleOf(const ViewRequest& request, const QRect& part);
+
+ClipBox meet(const ClipBox& first, const ClipBox& second);

@@ -46,14 +46,26 @@ constexpr CommandRow kRows[] = {
     {Command::NextSelected,    Menu::View, QT_TRANSLATE_NOOP("Commands", "&Next Selected"),      "F3",                   Icon::Next,          kDrawing | kSelected,    "NEXT",                       false, true},
     {Command::PreviousSelected,Menu::View, QT_TRANSLATE_NOOP("Commands", "&Previous Selected"),  "Shift+F3",             Icon::Previous,      kDrawing | kSelected,    "PREVIOUS",                   false, false},
     {Command::Layers,          Menu::View, QT_TRANSLATE_NOOP("Commands", "Find a &Layer"),       "Ctrl+L",               Icon::None,          kNothing,                "LAYER|LA",                   false, true},
-    {Command::Lineweights,     Menu::View, QT_TRANSLATE_NOOP("Commands", "Show Line&weights"),   "",                     Icon::Lineweights,   kNothing,                "LINEWEIGHTS",                true,  true},
-    {Command::LightColors,     Menu::View, QT_TRANSLATE_NOOP("Commands", "Light &Colors"),       "",                     Icon::Theme,         kNothing,                "LIGHT",                      true,  false},
+    {Command::Lineweights,     Menu::View, QT_TRANSLATE_NOOP("Commands", "Show Linewei&ghts"),   "",                     Icon::Lineweights,   kNothing,                "LINEWEIGHTS",                true,  true},
+    {Command::SystemTheme,     Menu::Theme, QT_TRANSLATE_NOOP("Commands", "&System"),            "",                     Icon::None,          kNothing,                "THEME SYSTEM",               true,  false},
+    {Command::LightTheme,      Menu::Theme, QT_TRANSLATE_NOOP("Commands", "&Light"),             "",                     Icon::None,          kNothing,                "THEME LIGHT|LIGHT",          true,  false},
+    {Command::DarkTheme,       Menu::Theme, QT_TRANSLATE_NOOP("Commands", "&Dark"),              "",                     Icon::None,          kNothing,                "THEME DARK|DARK",            true,  false},
+    {Command::ContrastTheme,   Menu::Theme, QT_TRANSLATE_NOOP("Commands", "&High Contrast"),     "",                     Icon::None,          kNothing,                "THEME CONTRAST|CONTRAST",    true,  false},
     {Command::ListValues,      Menu::View, QT_TRANSLATE_NOOP("Commands", "List the &Values of Texts"), "",               Icon::None,          kNothing,                "LISTVALUES",                 true,  false},
     {Command::PreviewMatches,  Menu::View, QT_TRANSLATE_NOOP("Commands", "&Preview Matches"),     "",                     Icon::None,          kNothing,                "PREVIEW",                    true,  false},
     {Command::Help,            Menu::Help, QT_TRANSLATE_NOOP("Commands", "&Help"),               "F1",                   Icon::Help,          kNothing,                "HELP|?",                     false, false},
     {Command::QuickSelectHelp, Menu::Help, QT_TRANSLATE_NOOP("Commands", "&Quick Select"),       "",                     Icon::None,          kNothing,                "HELP QSELECT",               false, false},
     {Command::Keys,            Menu::Help, QT_TRANSLATE_NOOP("Commands", "&Keys and Commands"),  "Ctrl+F1",              Icon::None,          kNothing,                "KEYS",                       false, false},
     {Command::About,           Menu::Help, QT_TRANSLATE_NOOP("Commands", "&About kwdraw"),       "",                     Icon::None,          kNothing,                "ABOUT",                      false, true},
+};
+constexpr const char* kTitles[] = {
+    QT_TRANSLATE_NOOP("Commands", "&File"),
+    QT_TRANSLATE_NOOP("Commands", "&Edit"),
+    QT_TRANSLATE_NOOP("Commands", "&View"),
+    QT_TRANSLATE_NOOP("Commands", "&Help"),
+    QT_TRANSLATE_NOOP("Commands", "&Export Selection"),
+    QT_TRANSLATE_NOOP("Commands", "&Copy Selection"),
+    QT_TRANSLATE_NOOP("Commands", "&Theme"),
 };
 // clang-format on
 
@@ -80,13 +92,20 @@ QString plainText(const CommandRow& row)
     return translated(row.text).remove('&').remove("...");
 }
 
+/// As it is told outside of its menu, which its own text may take for granted.
+QString fullText(const CommandRow& row)
+{
+    const QString text = plainText(row);
+    return row.menu < Menu::Export ? text : titleOf(row.menu).remove('&') + ": " + text;
+}
+
 QAction* makeAction(const CommandRow& row, QObject* parent)
 {
     auto* action = new QAction(translated(row.text), parent);
     action->setShortcuts(keysOf(row));
     action->setIcon(iconOf(row.icon));
     action->setCheckable(row.checkable);
-    QString tip = plainText(row);
+    QString tip = fullText(row);
     if (!action->shortcut().isEmpty())
         tip += " (" + action->shortcut().toString(QKeySequence::NativeText) + ')';
     action->setToolTip(tip);
@@ -122,6 +141,11 @@ QString tableLine(const QString& act, const QString& keys, const QString& typed)
 }
 
 } // namespace
+
+QString titleOf(Menu menu)
+{
+    return translated(kTitles[static_cast<int>(menu)]);
+}
 
 Commands::Commands(QObject* parent) : QObject(parent)
 {
@@ -187,7 +211,7 @@ QString keyTable()
         QStringList keys;
         for (const QKeySequence& each : keysOf(row))
             keys << each.toString(QKeySequence::NativeText);
-        table += tableLine(plainText(row), keys.join(", "), typedNamesOf(row).join(", "));
+        table += tableLine(fullText(row), keys.join(", "), typedNamesOf(row).join(", "));
     }
     for (const OtherKey& other : kOtherKeys)
         table +=

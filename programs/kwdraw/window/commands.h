@@ -46,7 +46,10 @@ enum class Command
     OpenBlock,
     CloseBlock,
     Lineweights,
-    LightColors,
+    SystemTheme,
+    LightTheme,
+    DarkTheme,
+    ContrastTheme,
     ListValues,
     PreviewMatches,
     Layers,
@@ -81,7 +84,11 @@ enum class Menu
     Help,
     Export, ///< within the File menu
     Copy,   ///< within the Edit menu
+    Theme,  ///< within the View menu
 };
+
+/// With its mnemonic.
+QString titleOf(Menu menu);
 
 struct CommandRow
 {

@@ -10,14 +10,15 @@
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
+#include <kwdraw/document/sentences.h>
+
 namespace {
 
 QTreeWidgetItem* rowOf(const ReadFinding& finding)
 {
     const QString handle =
         finding.handle ? QString::number(finding.handle, 16).toUpper() : QString();
-    auto* row = new QTreeWidgetItem({QString::number(finding.line), handle,
-                                     QString::fromWCharArray(finding.sentence.kwszPtr())});
+    auto* row = new QTreeWidgetItem({QString::number(finding.line), handle, sentenceOf(finding)});
     row->setTextAlignment(0, Qt::AlignRight);
     row->setToolTip(2, row->text(2));
     return row;

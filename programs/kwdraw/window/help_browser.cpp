@@ -25,11 +25,6 @@ void HelpBrowser::goTo(const QString& place)
     setSource(QUrl(kBase + place), QTextDocument::MarkdownResource);
 }
 
-QString HelpBrowser::place() const
-{
-    return source().toString().mid(static_cast<int>(qstrlen(kBase)));
-}
-
 bool HelpBrowser::search(const QString& text, bool backwards)
 {
     const QTextDocument::FindFlags direction =
@@ -55,6 +50,7 @@ QVariant HelpBrowser::loadResource(int type, const QUrl& name)
 
 void HelpBrowser::goToHeading(const QUrl& source)
 {
+    m_place = source.toString().mid(static_cast<int>(qstrlen(kBase)));
     if (source.fragment().isEmpty())
         return;
     for (const HelpHeading& heading : headingsOf(*document())) {

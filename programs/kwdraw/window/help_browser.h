@@ -13,7 +13,7 @@ class HelpBrowser : public QTextBrowser
 
     void goTo(const QString& place);
     /// The page and heading that were last opened.
-    QString place() const;
+    QString place() const { return m_place; }
     /// Goes to the next place where the text stands, or the one before; beyond the end it goes on
     /// at the other one.
     /// @return  false if the page has it nowhere
@@ -26,4 +26,6 @@ class HelpBrowser : public QTextBrowser
 
   private:
     void goToHeading(const QUrl& source);
+
+    QString m_place; ///< is told before `source` knows of it
 };

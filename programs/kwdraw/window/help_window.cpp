@@ -48,7 +48,7 @@ HelpWindow::HelpWindow(QWidget* parent)
     parts->addWidget(m_contents);
     parts->addWidget(m_page);
     parts->setStretchFactor(1, 1);
-    parts->setSizes({230, 690});
+    parts->setSizes({260, 660});
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(6, 6, 6, 6);
     layout->addLayout(makeBar());
@@ -110,7 +110,7 @@ QLayout* HelpWindow::makeBar()
     m_wanted->setPlaceholderText(tr("Search this page"));
     m_wanted->setAccessibleName(tr("Search this page"));
     m_wanted->setClearButtonEnabled(true);
-    m_wanted->setMaximumWidth(260);
+    m_wanted->setFixedWidth(280);
     connect(m_wanted, &QLineEdit::returnPressed, this, [this] { search(false); });
     connect(m_wanted, &QLineEdit::textChanged, m_outcome, &QLabel::clear);
     m_outcome->setObjectName("helpOutcome");

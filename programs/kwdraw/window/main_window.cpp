@@ -12,9 +12,11 @@
 #include <QStatusBar>
 #include <QTabBar>
 #include <QToolBar>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <array>
 #include <iterator>
 
 #include <kwdraw/document/settings.h>
@@ -43,7 +45,7 @@ constexpr Command kToolBar[] = {
     Command::QuickSelect, Command::SelectSimilar, Command::Undo, Command::Redo,
     Command::ZoomExtents, Command::ZoomWindow, Command::ZoomSelection, Command::ZoomPrevious,
     Command::PreviousSelected, Command::NextSelected,
-    Command::Lineweights, Command::LightColors, Command::Help,
+    Command::Lineweights, Command::Help,
 };
 constexpr Command kBeforeGap[] = {Command::Reload, Command::Redo, Command::ZoomPrevious, Command::NextSelected};
 // clang-format on
@@ -170,17 +172,21 @@ void MainWindow::makeDocks()
 
 void MainWindow::makeMenus()
 {
-    QMenu* const menus[] = {
-        menuBar()->addMenu(tr("&File")),          menuBar()->addMenu(tr("&Edit")),
-        menuBar()->addMenu(tr("&View")),          menuBar()->addMenu(tr("&Help")),
-        new QMenu(tr("&Export Selection"), this), new QMenu(tr("&Copy Selection"), this)};
-    constexpr Menu kParents[] = {Menu::File, Menu::Edit, Menu::View,
-                                 Menu::Help, Menu::File, Menu::Edit};
+    constexpr Menu kParents[] = {Menu::File, Menu::Edit, Menu::View, Menu::Help,
+                                 Menu::File, Menu::Edit, Menu::View};
+    std::array<QMenu*, std::size(kParents)> menus;
+    for (std::size_t i = 0; i < menus.size(); ++i) {
+        const auto menu = static_cast<Menu>(i);
+        menus[i] = new QMenu(titleOf(menu), this);
+        if (kParents[i] == menu)
+            menuBar()->addMenu(menus[i]);
+    }
+    const auto menuOf = [&](Menu menu) { return menus[static_cast<std::size_t>(menu)]; };
     for (const CommandRow& row : Commands::rows()) {
-        QMenu& menu = *menus[static_cast<int>(row.menu)];
+        QMenu& menu = *menuOf(row.menu);
         if (row.startsGroup)
             menu.addSeparator();
-        QMenu& parent = *menus[static_cast<int>(kParents[static_cast<int>(row.menu)])];
+        QMenu& parent = *menuOf(kParents[static_cast<std::size_t>(row.menu)]);
         if (&parent != &menu && menu.isEmpty())
             parent.addMenu(&menu);
         menu.addAction(m_commands.action(row.command));
@@ -189,7 +195,9 @@ void MainWindow::makeMenus()
         if (row.command == Command::RunLast)
             m_filterMenu = menu.addMenu(tr("R&ecent Filters"));
     }
-    QMenu& view = *menus[static_cast<int>(Menu::View)];
+    m_themeMenu = menuOf(Menu::Theme);
+    m_themeMenu->setIcon(iconOf(Icon::Theme));
+    QMenu& view = *menuOf(Menu::View);
     view.addSeparator();
     for (const QDockWidget* dock : findChildren<QDockWidget*>())
         view.addAction(dock->toggleViewAction());
@@ -212,6 +220,10 @@ void MainWindow::makeToolBar()
             std::end(kBeforeGap))
             bar->addSeparator();
     }
+    QAction* const themes = m_themeMenu->menuAction();
+    bar->insertAction(m_commands.action(Command::Help), themes);
+    qobject_cast<QToolButton*>(bar->widgetForAction(themes))
+        ->setPopupMode(QToolButton::InstantPopup);
 }
 
 void MainWindow::connectHost()
@@ -231,7 +243,7 @@ void MainWindow::restoreSettings()
     restoreState(storedBytes(kDocks), kDockVersion);
     m_commands.action(Command::Lineweights)->setChecked(storedText(kLineweights) == "1");
     m_commands.action(Command::PreviewMatches)->setChecked(storedText(kPreviewMatches) != "0");
-    m_commands.action(Command::LightColors)->setChecked(switchValue(L"COLORTHEME") == 1);
+    setTheme(storedTheme());
     m_commands.action(Command::ListValues)->setChecked(switchValue(L"QSELECTLISTVALUES") == 1);
 }
 

@@ -15,12 +15,14 @@
 #include <kwdraw/view/drawing_view.h>
 #include <kwdraw/window/commands.h>
 #include <kwdraw/window/object_picking.h>
+#include <kwdraw/window/theme.h>
 
 class CommandLine;
 class LayerPanel;
 class MatchPreview;
 class NoticeBar;
 class PropertyPanel;
+class QActionGroup;
 class QStackedWidget;
 class QTabBar;
 class SavedFilters;
@@ -51,6 +53,7 @@ class MainWindow : public QMainWindow, public MainAppService
   protected:
     void keyPressEvent(QKeyEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
+    void changeEvent(QEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
 
@@ -128,7 +131,7 @@ class MainWindow : public QMainWindow, public MainAppService
     void updateCommands();
     bool carryOutWithArgument(const QString& line);
     void endOrClear();
-    void setLightColors(bool light);
+    void setTheme(Theme theme);
     void showAbout();
 
     const Module& m_module;
@@ -157,6 +160,9 @@ class MainWindow : public QMainWindow, public MainAppService
     NoticeBar* m_problemBar;
     QMenu* m_recentMenu = nullptr;
     QMenu* m_filterMenu = nullptr;
+    QMenu* m_themeMenu = nullptr;
+    QActionGroup* m_themes = nullptr; ///< one of which holds
+    Theme m_theme = Theme::Dark;
 
     QString m_wantedLayout;
     bool m_isReloading = false;

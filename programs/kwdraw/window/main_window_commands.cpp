@@ -1,9 +1,8 @@
 // What the window does on commands and keys.
 #include <kwdraw/window/main_window.h>
 
-#include <ui/theme.h>
-
 #include <QAction>
+#include <QActionGroup>
 #include <QCloseEvent>
 #include <QCoreApplication>
 #include <QDockWidget>
@@ -28,6 +27,16 @@ namespace {
 
 constexpr double kZoomStep = 1.5;
 
+struct ThemeCommand
+{
+    Command command;
+    Theme theme;
+};
+constexpr ThemeCommand kThemes[] = {{Command::SystemTheme, Theme::System},
+                                    {Command::LightTheme, Theme::Light},
+                                    {Command::DarkTheme, Theme::Dark},
+                                    {Command::ContrastTheme, Theme::HighContrast}};
+
 unsigned when(bool condition, unsigned need)
 {
     return condition ? need : 0U;
@@ -37,6 +46,7 @@ unsigned when(bool condition, unsigned need)
 
 void MainWindow::connectCommands()
 {
+    m_themes = new QActionGroup(this);
     Commands& on = m_commands;
     Selection& selection = m_document.selection();
     on.on(Command::Open, [this] { askForFile(); });
@@ -72,7 +82,13 @@ void MainWindow::connectCommands()
     on.on(Command::Keys, [this] { showHelp("keys.md", this); });
     on.on(Command::About, [this] { showAbout(); });
     on.onToggled(Command::Lineweights, [this](bool shown) { m_view->setLineweightsShown(shown); });
-    on.onToggled(Command::LightColors, [this](bool light) { setLightColors(light); });
+    for (const ThemeCommand& each : kThemes) {
+        m_themes->addAction(on.action(each.command));
+        on.on(each.command, [this, &each] {
+            storeTheme(each.theme);
+            setTheme(each.theme);
+        });
+    }
     on.onToggled(Command::ListValues,
                  [](bool listed) { setSwitch(L"QSELECTLISTVALUES", listed ? 1 : 0); });
     on.onToggled(Command::PreviewMatches, [this](bool shown) { m_matches->setOn(shown); });
@@ -157,10 +173,20 @@ void MainWindow::endOrClear()
         m_document.selection().clear();
 }
 
-void MainWindow::setLightColors(bool light)
+void MainWindow::setTheme(Theme theme)
 {
-    setSwitch(L"COLORTHEME", light ? 1 : 0);
-    kduiApplyColorTheme();
+    for (const ThemeCommand& each : kThemes)
+        if (each.theme == theme)
+            m_commands.action(each.command)->setChecked(true);
+    m_theme = theme;
+    applyTheme(theme);
+}
+
+void MainWindow::changeEvent(QEvent* event)
+{
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::ThemeChange && m_theme == Theme::System)
+        applyTheme(m_theme);
 }
 
 void MainWindow::keyPressEvent(QKeyEvent* event)

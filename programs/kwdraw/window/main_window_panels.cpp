@@ -11,6 +11,7 @@
 #include <QMenu>
 
 #include <common/command_line_text.h>
+#include <kwdraw/document/sentences.h>
 #include <kwdraw/panels/command_line.h>
 #include <kwdraw/panels/filter_running.h>
 #include <kwdraw/panels/property_panel.h>
@@ -97,7 +98,7 @@ bool MainWindow::run(const std::function<bool(std::string&)>& command, bool isOn
         isDone = command(problem);
     }
     if (!isDone)
-        tellProblem(QString::fromStdString(problem));
+        tellProblem(inUserLanguage(QString::fromStdString(problem)));
     else if (isOneRun)
         noteRun();
     updateCommands();
@@ -120,7 +121,7 @@ void MainWindow::runWritten(const QString& text)
     if (isDone)
         m_filters->noteRun(filter);
     else
-        m_filters->tell(QString::fromStdString(problem));
+        m_filters->tell(inUserLanguage(QString::fromStdString(problem)));
 }
 
 void MainWindow::runLast()
@@ -195,5 +196,5 @@ void MainWindow::copyCommand()
     QGuiApplication::clipboard()->setText(text);
     m_commandLine->say(text);
     if (!line.note.empty())
-        m_commandLine->say(QString::fromStdString(line.note));
+        m_commandLine->say(inUserLanguage(QString::fromStdString(line.note)));
 }

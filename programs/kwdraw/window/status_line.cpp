@@ -113,8 +113,8 @@ void StatusLine::showPreview(const QString& line)
 
 void StatusLine::colorPreview()
 {
-    const bool isDark = palette().color(QPalette::Window).lightness() < 128;
-    m_previewColor->setPalette(QPalette(Ground::of(isDark, false).previewed));
+    const Ground ground = Ground::of(viewColorsOf(palette()), false);
+    m_previewColor->setPalette(QPalette(ground.previewed));
 }
 
 void StatusLine::changeEvent(QEvent* event)
