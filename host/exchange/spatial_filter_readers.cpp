@@ -17,8 +17,8 @@ KdGeMatrix3d matrixFrom(std::span<const double> numbers)
     return matrix;
 }
 
-/// Code 40 has two meanings: the distance to a plane in front, which is missing where nothing is cut
-/// there, and the numbers of two matrices behind it.
+/// Code 40 has two meanings: the distance to a plane in front, which is missing where nothing is
+/// cut there, and the numbers of two matrices behind it.
 void takeNumbers(std::span<const double> numbers, SpatialFilterMembers& filter)
 {
     if (numbers.size() > 2 * kMatrixSize)

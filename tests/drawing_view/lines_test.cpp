@@ -341,7 +341,7 @@ TEST(Ground, TurnsColourSevenAgainstTheGround)
     look.isForeground = true;
     EXPECT_EQ(Ground::of(ViewColors::Dark, false).painted(look), QColor(Qt::white));
     EXPECT_EQ(Ground::of(ViewColors::Light, false).painted(look), QColor(Qt::black));
-    EXPECT_EQ(Ground::of(ViewColors::Dark, true).painted(look), QColor(Qt::black)); // paper is white everywhere
+    EXPECT_EQ(Ground::of(ViewColors::Dark, true).painted(look), QColor(Qt::black));
 }
 
 TEST(Ground, KeepsColoursThatStandOutAndChangesTheOthers)

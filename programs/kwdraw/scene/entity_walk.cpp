@@ -12,11 +12,7 @@ namespace {
 /// A deeper nesting is a mistake, and the stack has its limits.
 constexpr std::size_t kDeepestNesting = 64;
 
-/// What blocks may add to a scene, in points. A drawing can ask for any amount with a few nested
-/// references, and beyond this neither the memory of a usual computer nor the patience of its owner
-/// last; references then show as boxes. Entities and references that are looked at in blocks count
-/// as well, by the time that they take, since they may show nothing.
-constexpr std::uint64_t kMostWork = 20'000'000;
+// By the time that they take, in points.
 constexpr std::uint64_t kWorkOfEntity = 2;
 constexpr std::uint64_t kWorkOfReference = 16;
 
@@ -56,7 +52,7 @@ DrawingSettings::DrawingSettings(const KdDbDatabase& database)
 }
 
 EntityWalk::EntityWalk(const KdDbDatabase& database, Scene& scene, const KdGeMatrix3d& toScene,
-                       const QString& folder)
+                       const QString& folder, std::uint64_t mostPoints)
     : m_database(database),
       m_scene(scene),
       m_settings(database),
@@ -64,6 +60,7 @@ EntityWalk::EntityWalk(const KdDbDatabase& database, Scene& scene, const KdGeMat
       m_pictures(folder),
       m_writer(scene),
       m_folder(folder),
+      m_mostPoints(mostPoints),
       m_byBlock(foreground()),
       m_layerForZero(m_looks.layerZero())
 {
@@ -164,7 +161,7 @@ const std::vector<KdDbObjectId>& EntityWalk::contentsOf(KdDbObjectId block)
 std::size_t EntityWalk::pointsLeft() const
 {
     const std::uint64_t used = m_scene.points.size() + m_work + m_writer.clippingWork();
-    return used < kMostWork ? kMostWork - used : 0;
+    return used < m_mostPoints ? m_mostPoints - used : 0;
 }
 
 void EntityWalk::drawBlock(KdDbObjectId block, const KdGeMatrix3d& placement,
@@ -230,8 +227,8 @@ SceneBox EntityWalk::boxOf(KdDbObjectId block)
     if (!isNew || !record || record->isFromExternalReference())
         return entry->second;
     Scene scratch;
-    EntityWalk walk(m_database, scratch, KdGeMatrix3d(), m_folder);
-    walk.m_work = kMostWork; // references in the block count by their boxes as well
+    // References in the block count by their boxes as well.
+    EntityWalk walk(m_database, scratch, KdGeMatrix3d(), m_folder, 0);
     walk.m_activeBlocks = m_activeBlocks;
     std::swap(walk.m_boxes, m_boxes); // so that each box is made once, however deep blocks nest
     walk.drawSpace(*record, {});

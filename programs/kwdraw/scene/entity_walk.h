@@ -1,6 +1,7 @@
 /// Walks the entities of a space and, through its block references, those of blocks.
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <optional>
 #include <span>
@@ -33,9 +34,10 @@ using DrawEntity = void (*)(const KdDbEntity& entity, EntityWalk& walk);
 class EntityWalk
 {
   public:
-    /// @param folder  where pictures are looked for that are not found under their whole path
+    /// @param folder      where pictures are looked for that are not found under their whole path
+    /// @param mostPoints  what blocks may add, as for `buildScene`
     EntityWalk(const KdDbDatabase& database, Scene& scene, const KdGeMatrix3d& toScene,
-               const QString& folder);
+               const QString& folder, std::uint64_t mostPoints);
 
     /// Draws all entities of a block as items of the scene. False if `progress` gave up.
     bool drawSpace(const KdDbBlockTableRecord& space, const std::function<bool(double)>& progress);
@@ -95,6 +97,7 @@ class EntityWalk
     SceneWriter m_writer;
     ScenePath m_path;
     QString m_folder;
+    std::uint64_t m_mostPoints;
 
     SceneLook m_byBlock;
     std::uint32_t m_layerForZero;              ///< what layer "0" means here

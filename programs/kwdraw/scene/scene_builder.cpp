@@ -31,6 +31,7 @@ struct Order
     const KdDbDatabase& database;
     const std::function<bool(double)>& progress;
     const QString& folder;
+    std::uint64_t mostPoints;
 };
 
 std::shared_ptr<Scene> buildFlat(const Order& order, KdDbObjectId space,
@@ -42,7 +43,7 @@ std::shared_ptr<Scene> buildFlat(const Order& order, KdDbObjectId space,
     if (!record)
         return nullptr;
     auto scene = std::make_shared<Scene>();
-    EntityWalk walk(order.database, *scene, toScene, order.folder);
+    EntityWalk walk(order.database, *scene, toScene, order.folder, order.mostPoints);
     if (!walk.drawSpace(*record, order.progress))
         return nullptr;
     scene->box = visibleBox(*scene);
@@ -92,9 +93,9 @@ void addPaper(Scene& scene, KdDbObjectId sheet)
 std::shared_ptr<const Scene> buildScene(const KdDbDatabase& database, KdDbObjectId space,
                                         std::shared_ptr<const Scene> model,
                                         const std::function<bool(double)>& progress,
-                                        const QString& folder)
+                                        const QString& folder, std::uint64_t mostPoints)
 {
-    const Order order{database, progress, folder};
+    const Order order{database, progress, folder, mostPoints};
     const std::shared_ptr<Scene> scene = buildFlat(order, space, KdGeMatrix3d());
     if (!scene)
         return nullptr;

@@ -1,12 +1,19 @@
 /// From a drawing to what its spaces look like.
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <memory>
 
 #include <kwdraw/scene/scene.h>
 
 class KdDbDatabase;
+
+/// What blocks may add to a scene, in points. A drawing can ask for any amount with a few nested
+/// references, and beyond this neither the memory of a usual computer nor the patience of its owner
+/// last; references then show as boxes. Entities and references that are looked at in blocks count
+/// as well, by the time that they take, since they may show nothing.
+inline constexpr std::uint64_t kMostPointsOfBlocks = 20'000'000;
 
 /// Builds the scene of a block: of the model, a sheet, or a block definition that is open. Reads
 /// the members of all entities in it, so nobody else may use the drawing meanwhile; may run in any
@@ -19,4 +26,5 @@ class KdDbDatabase;
 std::shared_ptr<const Scene> buildScene(const KdDbDatabase& database, KdDbObjectId space,
                                         std::shared_ptr<const Scene> model,
                                         const std::function<bool(double)>& progress,
-                                        const QString& folder = {});
+                                        const QString& folder = {},
+                                        std::uint64_t mostPoints = kMostPointsOfBlocks);
