@@ -308,6 +308,14 @@
         <source>&amp;Theme</source>
         <translation>Far&amp;ben</translation>
     </message>
+    <message>
+        <source>Run &amp;Last Filter</source>
+        <translation>Letzten &amp;Filter ausführen</translation>
+    </message>
+    <message>
+        <source>Preview &amp;Matches</source>
+        <translation>&amp;Treffer vorab zeigen</translation>
+    </message>
 </context>
 <context>
     <name>Document</name>
@@ -634,6 +642,29 @@ Zeigt Zeichnungen und wählt ihre Objekte nach Eigenschaften aus.</translation>
     <message>
         <source>%1 of %2: handle %3</source>
         <translation>%1 von %2: Handle %3</translation>
+    </message>
+    <message>
+        <source>R&amp;ecent Filters</source>
+        <translation>Zule&amp;tzt verwendete Filter</translation>
+    </message>
+</context>
+<context>
+    <name>MatchPreview</name>
+    <message>
+        <source>Would select %1 ... (%2%)</source>
+        <translation>Würde %1 auswählen ... (%2%)</translation>
+    </message>
+    <message>
+        <source>Would select %1</source>
+        <translation>Würde %1 auswählen</translation>
+    </message>
+    <message>
+        <source>Would select —</source>
+        <translation>Würde — auswählen</translation>
+    </message>
+    <message>
+        <source>Would select — (%1)</source>
+        <translation>Würde — auswählen (%1)</translation>
     </message>
 </context>
 <context>

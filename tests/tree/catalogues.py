@@ -17,6 +17,7 @@ from pathlib import Path
 SCRIPT = Path(__file__).parents[2] / "scripts" / "texts"
 CATALOGUE = "kwdraw.ts"
 PLURAL_FORMS = 2  # of the languages that there are
+DIGITS = "Unterminated C++ character"  # said of numbers such as 50'000, and of no importance
 
 
 def form(text):
@@ -70,7 +71,8 @@ def brought_up_to_date(root, work):
         copy.parent.mkdir(parents=True)
         shutil.copy(catalogue, copy)
     run = subprocess.run([SCRIPT, work], capture_output=True, text=True, check=True)
-    return run.stdout + run.stderr
+    said = (run.stdout + run.stderr).splitlines()
+    return "\n".join(line for line in said if line and DIGITS not in line)
 
 
 def main(root):

@@ -52,7 +52,7 @@ constexpr CommandRow kRows[] = {
     {Command::DarkTheme,       Menu::Theme, QT_TRANSLATE_NOOP("Commands", "&Dark"),              "",                     Icon::None,          kNothing,                "THEME DARK|DARK",            true,  false},
     {Command::ContrastTheme,   Menu::Theme, QT_TRANSLATE_NOOP("Commands", "&High Contrast"),     "",                     Icon::None,          kNothing,                "THEME CONTRAST|CONTRAST",    true,  false},
     {Command::ListValues,      Menu::View, QT_TRANSLATE_NOOP("Commands", "List the &Values of Texts"), "",               Icon::None,          kNothing,                "LISTVALUES",                 true,  false},
-    {Command::PreviewMatches,  Menu::View, QT_TRANSLATE_NOOP("Commands", "&Preview Matches"),     "",                     Icon::None,          kNothing,                "PREVIEW",                    true,  false},
+    {Command::PreviewMatches,  Menu::View, QT_TRANSLATE_NOOP("Commands", "Preview &Matches"),     "",                     Icon::None,          kNothing,                "PREVIEW",                    true,  false},
     {Command::Help,            Menu::Help, QT_TRANSLATE_NOOP("Commands", "&Help"),               "F1",                   Icon::Help,          kNothing,                "HELP|?",                     false, false},
     {Command::QuickSelectHelp, Menu::Help, QT_TRANSLATE_NOOP("Commands", "&Quick Select"),       "",                     Icon::None,          kNothing,                "HELP QSELECT",               false, false},
     {Command::Keys,            Menu::Help, QT_TRANSLATE_NOOP("Commands", "&Keys and Commands"),  "Ctrl+F1",              Icon::None,          kNothing,                "KEYS",                       false, false},
