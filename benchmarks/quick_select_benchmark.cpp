@@ -37,6 +37,15 @@ constexpr Filter kFilters[] = {
 constexpr Filter kAppending = {
     "circles joining everything", L"Circle", L"Radius", L">", L"50", 0, false, true};
 
+/// What a program that counts while a person types asks, one after the other.
+constexpr Filter kFiltersAsAPersonTypes[] = {
+    {"a number", L"Line", L"Length", L"<", L"40"},
+    {"a name", L"Text", L"Contents", L"*", L"*Valve*"},
+    {"a layer", L"", L"Layer", L"=", L"PIPE-003"},
+    {"a color", L"", L"Color", L"=", L"1,2,3"},
+    {"a point", L"Polyline", L"Vertex", L">", L"1000000", 1},
+};
+
 /// Over drawings in which nothing stands twice.
 constexpr Filter kDistinctFilters[] = {
     {"layer", L"", L"Layer", L"=", L"LAYER-0000001"},
@@ -75,6 +84,7 @@ class Search
         if (type == types.end())
             return;
         m_className = *filter.type ? type->className : L"";
+        m_example = type->example;
         const std::vector<PropertyEntry> properties = propertiesOf(module, type->example, false);
         const auto property =
             std::find_if(properties.begin(), properties.end(), [&](const PropertyEntry& entry) {
@@ -86,6 +96,8 @@ class Search
     }
 
     bool isFound() const { return m_isFound; }
+    /// An entity of the type; null if there is none.
+    KdDbObjectId example() const { return m_example; }
 
     quick_select::Request request() const
     {
@@ -106,6 +118,7 @@ class Search
     Filter m_filter;
     bool m_isFound = false;
     std::wstring m_className;
+    KdDbObjectId m_example;
     PropertyEntry m_property;
 };
 
@@ -115,8 +128,8 @@ bool fail(benchmark::State& state, const char* problem)
     return false;
 }
 
-/// One run. False, with the benchmark ended, unless the outcome is as wished.
-bool run(benchmark::State& state, const Module& module, const Search& search, bool shouldMatch)
+/// One run, whatever it finds. False, with the benchmark ended, if the module refuses.
+bool runWhatever(benchmark::State& state, const Module& module, const Search& search)
 {
     if (!search.isFound())
         return fail(state, "the drawing lacks the type or the property");
@@ -125,7 +138,15 @@ bool run(benchmark::State& state, const Module& module, const Search& search, bo
     if (result.outcome != quick_select::Outcome::Done)
         return fail(state, "the module refused the filter");
     state.counters["matches"] = result.matches;
-    if ((result.matches > 0) != shouldMatch)
+    return true;
+}
+
+/// One run. False, with the benchmark ended, unless the outcome is as wished.
+bool run(benchmark::State& state, const Module& module, const Search& search, bool shouldMatch)
+{
+    if (!runWhatever(state, module, search))
+        return false;
+    if ((state.counters["matches"] > 0) != shouldMatch)
         return fail(state, shouldMatch ? "nothing matched" : "something matched");
     return true;
 }
@@ -161,6 +182,66 @@ Measurement repeatedRuns(const Module& module, const Filter& filter, bool should
         for (auto _ : state)
             if (!run(state, module, search, shouldMatch))
                 break;
+    };
+}
+
+/// Runs over a drawing that is held, so that all but the first find it gathered.
+Measurement runsInHeldDrawing(const Module& module, const Filter& filter)
+{
+    return [&module, filter](benchmark::State& state, long entities) {
+        ReadOptions options;
+        options.readAllMembers = true;
+        const WorkingDrawing drawing(state, entities, options);
+        module.holdDrawing(true);
+        const Search search(module, filter);
+        for (auto _ : state)
+            if (!runWhatever(state, module, search))
+                break;
+        module.holdDrawing(false);
+    };
+}
+
+void countType(void* context, const quick_select::Type&)
+{
+    ++*static_cast<long*>(context);
+}
+
+/// The types of a drawing, for which each block reference is asked for its display name.
+Measurement listTypes(const Module& module)
+{
+    return [&module](benchmark::State& state, long entities) {
+        const WorkingDrawing drawing(state, entities, {});
+        long listed = 0;
+        for (auto _ : state) {
+            listed = 0;
+            module.listTypes(nullptr, countType, &listed);
+        }
+        state.counters["matches"] = static_cast<double>(listed);
+        if (listed == 0)
+            state.SkipWithError("no types were listed");
+    };
+}
+
+void countChoices(void* context, const quick_select::Property& property)
+{
+    *static_cast<std::size_t*>(context) += property.choiceCount;
+}
+
+/// The values that one property offers, such as the names of all blocks.
+Measurement listValues(const Module& module, const Filter& filter)
+{
+    return [&module, filter](benchmark::State& state, long entities) {
+        const WorkingDrawing drawing(state, entities, {});
+        const Search search(module, filter);
+        std::size_t listed = 0;
+        for (auto _ : state) {
+            listed = 0;
+            module.listProperties(search.example(), search.request().propertyKey, true,
+                                  countChoices, &listed);
+        }
+        state.counters["matches"] = static_cast<double>(listed);
+        if (listed < static_cast<std::size_t>(entities) / 2)
+            state.SkipWithError("not all values were listed");
     };
 }
 
@@ -203,6 +284,9 @@ Measurement firstRun(const Module& module, const Filter& filter)
 void registerDistinct(const Module& module, long entities)
 {
     registerMeasurement("distinct/gather", entities, gather(module));
+    registerMeasurement("distinct/types", entities, listTypes(module));
+    registerMeasurement("distinct/values of block", entities,
+                        listValues(module, {"", L"Block Reference", L"Name", L"", L""}));
     for (const Filter& filter : kDistinctFilters)
         registerMeasurement(std::string("distinct/") + filter.name, entities,
                             repeatedRuns(module, filter, true));
@@ -217,6 +301,9 @@ void registerQuickSelect(const Module& module, long entities)
     for (const Filter& filter : kFilters)
         registerMeasurement(std::string("run/") + filter.name, entities,
                             repeatedRuns(module, filter, true));
+    for (const Filter& filter : kFiltersAsAPersonTypes)
+        registerMeasurement(std::string("again/") + filter.name, entities,
+                            runsInHeldDrawing(module, filter));
     registerMeasurement(std::string("run/") + kAppending.name, entities, appendingRuns(module));
     for (const Filter& filter : kFilters)
         registerMeasurement(std::string("first run/") + filter.name, entities,

@@ -8,31 +8,64 @@ bool SelectionSet::add(KdDbObjectId id)
     if (!database || (m_database && m_database != database))
         return false;
     m_cells.push_back(id);
-    if (!m_index.insert(m_cells, m_cells.size() - 1)) {
+    if (!enterLastCell()) {
         m_cells.pop_back();
         return true;
     }
     m_database = database;
+    if (!m_removed.empty())
+        m_removed.push_back(false);
     if (!m_live.isEmpty())
         m_live.append(true);
     ++m_count;
     return true;
 }
 
+/// False if its id is a member already.
+bool SelectionSet::enterLastCell()
+{
+    const KdDbObjectId id = m_cells.back();
+    if (m_ascends && m_runs.append(id, m_cells.size() - 1))
+        return true;
+    if (m_ascends) {
+        if (find(id))
+            return false;
+        m_cells.pop_back();
+        dropRemovedCells();
+        m_ascends = false;
+        indexAll();
+        m_cells.push_back(id);
+    }
+    return m_index.insert(m_cells, m_cells.size() - 1);
+}
+
 bool SelectionSet::remove(KdDbObjectId id)
 {
-    const auto place = m_index.find(m_cells, id);
+    const auto place = find(id);
     if (!place)
         return false;
-    m_index.erase(m_cells, id);
-    m_cells[*place] = KdDbObjectId::kNull;
+    if (!m_ascends)
+        m_index.erase(m_cells, id);
+    m_removed.resize(m_cells.size());
+    m_removed[*place] = true;
     if (!m_live.isEmpty())
         m_live.remove(*place);
     --m_count;
     constexpr std::size_t kFewEnough = 64;
-    if (m_cells.size() > 2 * m_count + kFewEnough)
-        removeEmptyCells();
+    if (m_cells.size() > 2 * m_count + kFewEnough) {
+        // Half of the cells are empty, so this is paid for by the removals before it.
+        dropRemovedCells();
+        indexAll();
+    }
     return true;
+}
+
+std::optional<std::size_t> SelectionSet::find(KdDbObjectId id) const
+{
+    if (!m_ascends)
+        return m_index.find(m_cells, id);
+    const auto place = m_runs.find(m_cells, id);
+    return place && isLive(*place) ? place : std::nullopt;
 }
 
 KdDbObjectId SelectionSet::at(std::size_t number) const
@@ -41,21 +74,36 @@ KdDbObjectId SelectionSet::at(std::size_t number) const
     if (m_count == m_cells.size())
         return m_cells[number];
     if (m_live.isEmpty())
-        for (const KdDbObjectId id : m_cells)
-            m_live.append(!id.isNull());
+        for (std::size_t place = 0; place < m_cells.size(); ++place)
+            m_live.append(isLive(place));
     auto [block, before] = m_live.find(number);
     std::size_t place = block * LiveCells::kBlock;
-    while (m_cells[place].isNull() || before-- > 0)
+    while (!isLive(place) || before-- > 0)
         ++place;
     return m_cells[place];
 }
 
-/// Waits until half of the cells are empty, so the work is paid for by the removals before it.
-void SelectionSet::removeEmptyCells()
+void SelectionSet::dropRemovedCells()
 {
-    std::erase(m_cells, KdDbObjectId::kNull);
+    std::size_t kept = 0;
+    for (std::size_t place = 0; place < m_cells.size(); ++place)
+        if (isLive(place))
+            m_cells[kept++] = m_cells[place];
+    m_cells.resize(kept);
+    m_removed.clear();
     m_live.clear();
+}
+
+void SelectionSet::indexAll()
+{
+    m_runs.clear();
     m_index.clear();
+    // What ascended in runs need not do so when some of it is gone.
+    for (std::size_t place = 0; m_ascends && place < m_cells.size(); ++place)
+        m_ascends = m_runs.append(m_cells[place], place);
+    if (m_ascends)
+        return;
+    m_runs.clear();
     for (std::size_t place = 0; place < m_cells.size(); ++place)
         m_index.insert(m_cells, place);
 }

@@ -24,4 +24,7 @@ class SelectionStore
   private:
     std::unordered_map<long, SelectionSet> m_sets;
     long m_lastNumber = 0;
+    /// What was found last; most calls are about the same set as the call before.
+    long m_foundNumber = 0;
+    SelectionSet* m_found = nullptr;
 };

@@ -188,6 +188,20 @@ int KdDbBlockReference_Extension::PropertyValueGet(const KdDbEntity* entity, KdS
     return answerOpenKey(reference, result, name) ? 1 : 0;
 }
 
+LastingRow KdDbBlockReference_Extension::lastingRow(const KdRxClass& rxClass, const KdString& key)
+{
+    if (!rxClass.isDerivedFrom(KdDbBlockReference::desc()))
+        return nullptr;
+    const LastingRow own = findLastingRow(kRows, key);
+    if (own != nullptr)
+        return own && (*own)->key.id == kRotationKey ? LastingRow() : own;
+    initFuncsMap();
+    if (m_arrayGetters.contains(key) || m_centerGetters.contains(key))
+        return std::nullopt;
+    const LastingRow general = findLastingRow(generalRows(), key);
+    return general == nullptr ? LastingRow() : general; // attributes have keys of their own
+}
+
 bool KdDbBlockReference_Extension::answerOpenKey(KdDbBlockReference* reference, ResBuf*& result,
                                                  std::wstring_view name)
 {

@@ -25,6 +25,8 @@ class KdDbBlockReference_Extension : public KdDbEntity_Extension
                       KdArray<bool>& flags) override;
     int PropertyValueGet(const KdDbEntity* entity, KdString name, ResBuf*& result,
                          bool asDisplayText, bool withChoices) override;
+    using SaysRows = KdDbBlockReference_Extension;
+    LastingRow lastingRow(const KdRxClass& rxClass, const KdString& key);
 
     /// Fills both maps, unless they are filled.
     void initFuncsMap();

@@ -1,8 +1,10 @@
 #include <command/gathering.h>
 
 #include <algorithm>
+#include <cstdint>
 #include <memory>
 #include <optional>
+#include <string>
 #include <unordered_set>
 
 #include <database/database.h>
@@ -13,7 +15,6 @@
 #include <platform/message_box.h>
 
 #include <values/class_map.h>
-#include <values/display_name.h>
 #include <values/globals.h>
 #include <values/resource_string.h>
 
@@ -42,58 +43,49 @@ KdDbObjectId modelSpace(KdDbDatabase& database)
 class TypeCollector
 {
   public:
-    TypeCollector(std::vector<KdDbEntity*>& all, std::vector<KdDbEntity*>& types)
-        : m_all(all), m_types(types)
+    TypeCollector(CandidateList& all, std::vector<KdDbEntity*>& types) : m_all(all), m_types(types)
     {
     }
 
     /// The entity's class must be known.
     void add(KdDbEntity& entity)
     {
-        if (!m_classes.at(entity.isA()).isSeen)
-            see(entity);
-        m_all.push_back(&entity);
+        if (m_all.add(entity) < m_kindsSeen)
+            return;
+        m_kindsSeen = m_all.kinds().size();
+        const std::wstring& name = m_all.kinds().back().displayName;
+        if (!name.empty() && m_names.insert(name).second)
+            m_types.push_back(&entity);
     }
 
-    bool isSheetViewport(const KdDbEntity& entity)
+  private:
+    CandidateList& m_all;
+    std::vector<KdDbEntity*>& m_types;
+    std::size_t m_kindsSeen = 0;
+    std::unordered_set<std::wstring> m_names; ///< those that an entity of `m_types` has
+};
+
+/// Tells the viewport that shows a sheet itself.
+class SheetViewportTest
+{
+  public:
+    bool operator()(const KdDbEntity& entity)
     {
-        ClassNotes& notes = m_classes.at(entity.isA());
-        if (notes.kind == ClassNotes::Kind::Unknown)
-            notes.kind = entity.isKindOf(KdDbViewport::desc()) ? ClassNotes::Kind::Viewport
-                                                               : ClassNotes::Kind::Other;
-        return notes.kind == ClassNotes::Kind::Viewport &&
+        Kind& kind = m_classes.at(entity.isA());
+        if (kind == Kind::Unknown)
+            kind = entity.isKindOf(KdDbViewport::desc()) ? Kind::Viewport : Kind::Other;
+        return kind == Kind::Viewport &&
                static_cast<const KdDbViewport&>(entity).number() == kSheetViewport;
     }
 
   private:
-    struct ClassNotes
+    enum class Kind : std::uint8_t
     {
-        enum class Kind : std::uint8_t
-        {
-            Unknown,
-            Viewport,
-            Other,
-        };
-        Kind kind = Kind::Unknown;
-        bool isSeen = false; ///< all its entities have one name, and that was entered
+        Unknown,
+        Viewport,
+        Other,
     };
-
-    void see(KdDbEntity& entity)
-    {
-        const std::wstring& name = m_names.of(entity);
-        // Looked up before it is entered, because entering allocates even for a name that is there.
-        if (!name.empty() && !m_seen.contains(name)) {
-            m_seen.insert(name);
-            m_types.push_back(&entity);
-        }
-        m_classes.at(entity.isA()).isSeen = m_names.ofClass(entity.isA()) != nullptr;
-    }
-
-    std::vector<KdDbEntity*>& m_all;
-    std::vector<KdDbEntity*>& m_types;
-    DisplayNames m_names;
-    std::unordered_set<std::wstring> m_seen;
-    ClassMap<ClassNotes> m_classes;
+    ClassMap<Kind> m_classes;
 };
 
 SpaceStatus gatherBlock(KdDbObjectId block, Candidates& candidates)
@@ -104,11 +96,12 @@ SpaceStatus gatherBlock(KdDbObjectId block, Candidates& candidates)
         return SpaceStatus::Unreadable;
     const std::unique_ptr<KdDbBlockTableRecordIterator> iterator(walker);
     TypeCollector collector(candidates.allEntities, candidates.drawingTypeEntities);
+    SheetViewportTest isSheetViewport;
     for (iterator->start(true, true); !iterator->done(); iterator->step(true, true)) {
         KdDbEntity* entity = nullptr;
         if (iterator->getEntity(entity, KdDb::kForRead) != eOk)
             continue;
-        if (entity->isA() && !collector.isSheetViewport(*entity))
+        if (entity->isA() && !isSheetViewport(*entity))
             collector.add(*entity);
         entity->close();
     }

@@ -3,17 +3,16 @@
 
 #include <vector>
 
+#include <command/candidate_list.h>
 #include <values/host_set.h>
-
-class KdDbEntity;
 
 /// What gathering found. The pointers come from entities that are closed again; the host keeps them
 /// valid, and nothing changes one, for as long as the run lasts.
 struct Candidates
 {
-    std::vector<KdDbEntity*> allEntities;         ///< of the current space, in its order
+    CandidateList allEntities;                    ///< of the current space, in its order
     std::vector<KdDbEntity*> drawingTypeEntities; ///< the first of each display name
-    std::vector<KdDbEntity*> selectionEntities;   ///< of the starting selection, in its order
+    CandidateList selectionEntities;              ///< of the starting selection, in its order
     std::vector<KdDbEntity*> selectionTypeEntities;
     const KdDbEntity* firstMember = nullptr; ///< of the starting selection, if it can be opened
     const long* given = nullptr;             ///< the set offered by the caller, if it has members

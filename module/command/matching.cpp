@@ -3,70 +3,80 @@
 #include <array>
 #include <cstdint>
 #include <functional>
+#include <unordered_map>
+#include <vector>
 
 #include <database/tables.h>
 #include <entities/block_reference.h>
 #include <entities/viewport.h>
 #include <plugin/entity_pe.h>
 
-#include <values/class_map.h>
+#include <command/registration.h>
+#include <providers/general_rows.h>
 #include <values/compare.h>
-#include <values/display_name.h>
 #include <values/names.h>
 #include <values/resource_string.h>
 #include <values/text_utilities.h>
 #include <values/value_chain.h>
 
+namespace {
+
+constexpr ResourceText kBlockName{77414, L"Misc:Name"};
+
+/// How a run deals with candidates of one kind, found out when the first of them comes.
+struct KindPlan
+{
+    enum class Reading : std::uint8_t
+    {
+        AskProvider,  ///< for each entity
+        ReadRow,      ///< `row` answers for all of them
+        NothingThere, ///< none has the property
+    };
+
+    bool isMade = false;
+    bool isWanted = false; ///< of the chosen type
+    bool isBlockReference = false;
+    KdDbEntityPE* provider = nullptr;
+    Reading reading = Reading::AskProvider;
+    const PropertyRow* row = nullptr;
+    bool followsFromLayer = false; ///< what `row` reads
+};
+
+} // namespace
+
 /// Tests candidates one after the other. Nothing changes in the drawing meanwhile, so what holds
-/// for a whole class or layer is found out once.
+/// for a whole kind or layer is found out once.
 class MatchWalk::Matcher
 {
   public:
-    explicit Matcher(const DialogParameters& parameters)
+    Matcher(const DialogParameters& parameters, const CandidateList& candidates)
         : m_parameters(parameters),
+          m_candidates(candidates),
           m_comparison(parameters.propertyParameters),
-          m_allTypes(isForAllTypes(parameters))
+          m_allTypes(isForAllTypes(parameters)),
+          m_plans(candidates.kinds().size())
     {
     }
 
-    bool isOnFrozenLayer(const KdDbEntity& entity)
+    bool isOnFrozenLayer(std::size_t candidate) { return layerOf(candidate).isFrozen; }
+
+    /// What is to be done with a candidate, by its kind.
+    const KindPlan& planFor(std::size_t candidate)
     {
-        const KdDbObjectId id = entity.layerId();
-        constexpr std::uint64_t kGoldenRatio = 0x9E3779B97F4A7C15u;
-        LayerState& state = m_layers[std::hash<KdDbObjectId>()(id) * kGoldenRatio >> (64 - kBits)];
-        if (state.id != id) {
-            const OpenForRead<KdDbLayerTableRecord> layer(id);
-            state = {id, layer && layer->isFrozen()};
-        }
-        return state.isFrozen;
+        KindPlan& plan = m_plans[m_candidates.note(candidate).kind];
+        if (!plan.isMade)
+            makePlan(plan, m_candidates.kindOf(candidate), m_candidates[candidate]);
+        return plan;
     }
 
-    /// With one type chosen both class and display name decide, since two names may share a class.
-    bool isOfType(const KdDbEntity& entity)
+    bool passes(std::size_t candidate, const KindPlan& plan)
     {
-        if (m_allTypes)
-            return true;
-        const KdRxClass* const rxClass = entity.isA();
-        Answer& answer = m_ofChosenClass.at(rxClass);
+        if (!plan.followsFromLayer)
+            return passes(m_candidates[candidate], plan);
+        Answer& answer = layerOf(candidate).answer;
         if (answer == Answer::Unknown)
-            answer = m_parameters.objectClassName == rxClass->name() ? Answer::Yes : Answer::No;
-        if (answer == Answer::No)
-            return false;
-        const std::wstring& name = m_names.of(entity);
-        return name.empty() || name == m_parameters.objectTypeName;
-    }
-
-    bool passes(KdDbEntity& entity, KdDbEntityPE& provider)
-    {
-        const KdString& key = m_parameters.propertyParameters.propertyKey;
-        m_value.reset();
-        if (isBlockName(entity, provider)) {
-            if (getBlockReferenceName(&entity, m_value.head()) != eOk)
-                return false;
-        } else {
-            provider.PropertyValueGet(&entity, key, m_value.head(), false, false);
-        }
-        return m_comparison.satisfies(m_value.head(), m_parameters.filter);
+            answer = passes(m_candidates[candidate], plan) ? Answer::Yes : Answer::No;
+        return answer == Answer::Yes;
     }
 
   private:
@@ -80,40 +90,134 @@ class MatchWalk::Matcher
     };
     struct LayerState
     {
-        KdDbObjectId id; ///< null: nothing is frozen
+        KdDbObjectId id;
         bool isFrozen = false;
+        Answer answer = Answer::Unknown; ///< of what follows from the layer
     };
 
-    /// Block references are known by the name of the block they came from, which is read directly.
-    bool isBlockName(const KdDbEntity& entity, const KdDbEntityPE& provider)
+    LayerState& layerOf(std::size_t candidate)
     {
-        Answer& answer = m_isBlockReference.at(entity.isA());
-        if (answer == Answer::Unknown)
-            answer = entity.isKindOf(KdDbBlockReference::desc()) ? Answer::Yes : Answer::No;
-        return answer == Answer::Yes && provider.isKindOf(KdDbEntity_Extension::desc()) &&
-               m_parameters.propertyParameters.propertyKey.compare(
-                   __ResourceString(77414, L"Misc:Name")) == 0;
+        const KdDbObjectId id = m_candidates.note(candidate).layer;
+        constexpr std::uint64_t kGoldenRatio = 0x9E3779B97F4A7C15u;
+        LayerState*& state =
+            m_lastLayers[std::hash<KdDbObjectId>()(id) * kGoldenRatio >> (64 - kBits)];
+        if (!state || state->id != id)
+            state = &findLayer(id);
+        return *state;
+    }
+    LayerState& findLayer(KdDbObjectId id)
+    {
+        const auto [place, isNew] = m_layers.try_emplace(id);
+        if (isNew) {
+            const OpenForRead<KdDbLayerTableRecord> layer(id);
+            place->second = {id, layer && layer->isFrozen(), Answer::Unknown};
+        }
+        return place->second;
     }
 
+    /// With one type chosen both class and display name decide, since two names may share a class.
+    bool isWanted(const CandidateKind& kind) const
+    {
+        if (m_allTypes)
+            return true;
+        if (!(m_parameters.objectClassName == kind.rxClass->name()))
+            return false;
+        return kind.displayName.empty() || kind.displayName == m_parameters.objectTypeName;
+    }
+
+    void makePlan(KindPlan& plan, const CandidateKind& kind, const KdDbEntity& example) const
+    {
+        plan.isMade = true;
+        plan.isWanted = isWanted(kind);
+        if (!plan.isWanted)
+            return;
+        plan.provider = KdDbEntityPE::of(example);
+        plan.isBlockReference = kind.rxClass->isDerivedFrom(KdDbBlockReference::desc()) &&
+                                plan.provider &&
+                                plan.provider->isKindOf(KdDbEntity_Extension::desc());
+        if (plan.provider && !(plan.isBlockReference && mayBeBlockName()))
+            planReading(plan, *kind.rxClass);
+    }
+
+    void planReading(KindPlan& plan, const KdRxClass& rxClass) const
+    {
+        const LastingRow row =
+            lastingRow(*plan.provider, rxClass, m_parameters.propertyParameters.propertyKey);
+        if (!row)
+            return;
+        plan.row = *row;
+        plan.reading = *row ? KindPlan::Reading::ReadRow : KindPlan::Reading::NothingThere;
+        plan.followsFromLayer = *row && followsFromLayer(**row);
+    }
+
+    bool passes(KdDbEntity& entity, const KindPlan& plan)
+    {
+        if (plan.reading == KindPlan::Reading::AskProvider) {
+            if (!ask(entity, plan))
+                return false;
+        } else {
+            read(entity, plan.row);
+        }
+        return m_comparison.satisfies(m_value.head(), m_parameters.filter);
+    }
+
+    /// False if the entity is not to be compared.
+    bool ask(KdDbEntity& entity, const KindPlan& plan)
+    {
+        m_value.reset();
+        if (plan.isBlockReference && isBlockName())
+            return getBlockReferenceName(&entity, m_value.head()) == eOk;
+        plan.provider->PropertyValueGet(&entity, m_parameters.propertyParameters.propertyKey,
+                                        m_value.head(), false, false);
+        return true;
+    }
+
+    /// As the provider would answer; a null row is a property that is not there.
+    void read(const KdDbEntity& entity, const PropertyRow* row)
+    {
+        m_value.clear();
+        ResBuf& head = *m_value.head();
+        if (!row || !row->read({entity, head, false, false}, row->kind))
+            head.setRestype(ResBuf::kNone);
+    }
+
+    /// Block references are known by the name of the block they came from, which is read directly.
+    bool isBlockName() const
+    {
+        return kBlockName.matches(m_parameters.propertyParameters.propertyKey);
+    }
+
+    /// The same, or the text is not there, which is told at each use and so not here.
+    bool mayBeBlockName() const { return !kBlockName.isThere() || isBlockName(); }
+
     const DialogParameters& m_parameters;
+    const CandidateList& m_candidates;
     const PropertyComparison m_comparison;
     const bool m_allTypes;
-    DisplayNames m_names;
+    std::vector<KindPlan> m_plans; ///< by the number of the kind
     ValueChain m_value;
-    std::array<LayerState, std::size_t{1} << kBits> m_layers; ///< those looked at last
-    ClassMap<Answer> m_ofChosenClass;
-    ClassMap<Answer> m_isBlockReference;
+    std::unordered_map<KdDbObjectId, LayerState> m_layers;
+    std::array<LayerState*, std::size_t{1} << kBits> m_lastLayers{}; ///< those looked at last
 };
 
 namespace {
 
-const std::vector<KdDbEntity*>& walkedBy(const Candidates& candidates,
-                                         const std::vector<KdDbEntity*>& picked,
-                                         const DialogParameters& parameters)
+CandidateList listOf(const std::vector<KdDbEntity*>& picked)
+{
+    CandidateList list;
+    for (KdDbEntity* entity : picked) {
+        if (entity)
+            list.add(*entity);
+    }
+    return list;
+}
+
+CandidateList walkedBy(const Candidates& candidates, const std::vector<KdDbEntity*>& picked,
+                       const DialogParameters& parameters)
 {
     if (parameters.entireDrawing)
         return candidates.allEntities;
-    return parameters.selectionSource == -1 ? candidates.selectionEntities : picked;
+    return parameters.selectionSource == -1 ? candidates.selectionEntities : listOf(picked);
 }
 
 /// A viewport that is off does not show what would be selected; one that is clipped by an entity
@@ -141,7 +245,7 @@ bool isForAllTypes(const DialogParameters& parameters)
 MatchWalk::MatchWalk(const Candidates& candidates, const std::vector<KdDbEntity*>& picked,
                      const DialogParameters& parameters)
     : m_walked(walkedBy(candidates, picked, parameters)),
-      m_matcher(std::make_unique<Matcher>(parameters))
+      m_matcher(std::make_unique<Matcher>(parameters, m_walked))
 {
 }
 
@@ -149,15 +253,15 @@ MatchWalk::~MatchWalk() = default;
 
 MatchWalk::Verdict MatchWalk::next()
 {
-    KdDbEntity* const entity = m_walked[m_next++];
-    if (!entity || m_matcher->isOnFrozenLayer(*entity))
+    const std::size_t candidate = m_next++;
+    if (m_matcher->isOnFrozenLayer(candidate))
         return Verdict::PassedOver;
-    if (!m_matcher->isOfType(*entity))
+    const KindPlan& plan = m_matcher->planFor(candidate);
+    if (!plan.isWanted)
         return Verdict::NoMatch;
-    KdDbEntityPE* provider = KdDbEntityPE::of(*entity);
-    if (!provider)
+    if (!plan.provider)
         return Verdict::NoProvider;
-    return m_matcher->passes(*entity, *provider) ? Verdict::Match : Verdict::NoMatch;
+    return m_matcher->passes(candidate, plan) ? Verdict::Match : Verdict::NoMatch;
 }
 
 ScopedTolerance toleranceOfRun()

@@ -44,8 +44,8 @@ class MatchWalk
     bool isDone() const { return m_next == m_walked.size(); }
     /// Tests the next candidate; only before the end. Within a `toleranceOfRun`.
     Verdict next();
-    /// The one that was tested last; may be null if it was passed over.
-    KdDbEntity* entity() const { return m_walked[m_next - 1]; }
+    /// The one that was tested last.
+    KdDbEntity* entity() const { return &m_walked[m_next - 1]; }
 
     std::size_t tested() const { return m_next; }
     std::size_t size() const { return m_walked.size(); }
@@ -53,7 +53,7 @@ class MatchWalk
   private:
     class Matcher;
 
-    const std::vector<KdDbEntity*>& m_walked;
+    const CandidateList m_walked;
     std::size_t m_next = 0;
     std::unique_ptr<Matcher> m_matcher;
 };

@@ -76,7 +76,7 @@ Candidates gather(const long* ss)
     return candidates;
 }
 
-const std::vector<KdDbEntity*>& allOf(const Candidates& candidates, const long* ss)
+const CandidateList& allOf(const Candidates& candidates, const long* ss)
 {
     return ss ? candidates.selectionEntities : candidates.allEntities;
 }
@@ -108,32 +108,29 @@ void listTypes(const long* ss, quick_select::TypeVisitor visitor, void* context)
 {
     const Candidates candidates = gather(ss);
     const auto& examples = ss ? candidates.selectionTypeEntities : candidates.drawingTypeEntities;
-    DisplayNames names;
-    ClassMap<std::size_t> countsOfClasses; // where all entities of a class have one name
-    std::map<std::pair<std::wstring, const KdRxClass*>, std::size_t> counts;
-    for (const KdDbEntity* entity : allOf(candidates, ss)) {
-        const KdRxClass* rxClass = entity->isA();
-        if (names.ofClass(rxClass))
-            ++countsOfClasses.at(rxClass);
-        else
-            ++counts[{names.of(*entity), rxClass}];
+    const CandidateList& all = allOf(candidates, ss);
+    std::vector<std::size_t> counts(all.kinds().size());
+    std::map<const KdDbEntity*, std::uint32_t> kinds; // of the examples
+    for (std::size_t i = 0; i < all.size(); ++i) {
+        const std::uint32_t kind = all.note(i).kind;
+        if (++counts[kind] == 1)
+            kinds.emplace(&all[i], kind);
     }
     for (const KdDbEntity* example : examples) {
-        const std::wstring& name = names.of(*example);
-        const KdRxClass* rxClass = example->isA();
-        const std::size_t count =
-            names.ofClass(rxClass) ? countsOfClasses.at(rxClass) : counts[{name, rxClass}];
-        visitor(context, Type{name.c_str(), rxClass->name(), example->objectId(), count});
+        const std::uint32_t number = kinds.at(example);
+        const CandidateKind& kind = all.kinds()[number];
+        visitor(context, Type{kind.displayName.c_str(), kind.rxClass->name(), example->objectId(),
+                              counts[number]});
     }
 }
 
 void listEntities(const long* ss, quick_select::EntityVisitor visitor, void* context)
 {
     const Candidates candidates = gather(ss);
-    DisplayNames names;
-    for (const KdDbEntity* entity : allOf(candidates, ss)) {
-        const std::wstring& name = names.of(*entity);
-        visitor(context, Entity{entity->objectId(), entity->isA()->name(), name.c_str()});
+    const CandidateList& all = allOf(candidates, ss);
+    for (std::size_t i = 0; i < all.size(); ++i) {
+        const CandidateKind& kind = all.kindOf(i);
+        visitor(context, Entity{all[i].objectId(), kind.rxClass->name(), kind.displayName.c_str()});
     }
 }
 

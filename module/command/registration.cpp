@@ -8,6 +8,7 @@
 #include <dimensions/leader_providers.h>
 #include <providers/curve_providers.h>
 #include <providers/hatch_provider.h>
+#include <providers/lasting_row.h>
 #include <providers/other_providers.h>
 #include <providers/plain_providers.h>
 #include <providers/text_providers.h>
@@ -120,8 +121,14 @@ KW_INSTANCE(KdDbGeoPositionMarker_Extension);
 
 namespace {
 
+template <class Provider>
+LastingRow lastingRowAs(KdDbEntityPE& provider, const KdRxClass& rxClass, const KdString& key)
+{
+    return lastingRowOf(static_cast<Provider&>(provider), rxClass, key);
+}
+
 // clang-format off
-#define KW_ROW(Host, Provider) {Host::desc, &g_##Provider},
+#define KW_ROW(Host, Provider) {Host::desc, &g_##Provider, lastingRowAs<Provider>},
 // The rule is that a class gets the provider of its own name.
 constexpr Registration kRegistrations[] = {
     KW_ROW(KdDb3dSolid, KdDb3dSolid_Extension)
@@ -236,6 +243,15 @@ void detach(const Registration& row)
 std::span<const Registration> registrations()
 {
     return kRegistrations;
+}
+
+LastingRow lastingRow(KdDbEntityPE& provider, const KdRxClass& rxClass, const KdString& key)
+{
+    for (const Registration& row : kRegistrations) {
+        if (row.provider == &provider)
+            return row.lastingRow(provider, rxClass, key);
+    }
+    return std::nullopt;
 }
 
 void addXs()

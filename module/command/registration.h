@@ -3,19 +3,26 @@
 
 #include <span>
 
+#include <providers/property_row.h>
+
+class KdDbEntityPE;
 class KdRxClass;
-class KdRxObject;
 
 /// One host class with the provider that answers for it.
 struct Registration
 {
     KdRxClass* (*hostClass)();
-    KdRxObject* provider;
+    KdDbEntityPE* provider;
+    LastingRow (*lastingRow)(KdDbEntityPE& provider, const KdRxClass& rxClass, const KdString& key);
 };
 
 /// The 98 rows in the order of their attachment. A host class without a row inherits the provider
 /// of its nearest ancestor that has one.
 std::span<const Registration> registrations();
+
+/// The row by which a provider answers a key for each entity of a class; nothing for a provider
+/// that is none of these, and where only asking it can tell.
+LastingRow lastingRow(KdDbEntityPE& provider, const KdRxClass& rxClass, const KdString& key);
 
 /// Attaches every provider to its class under the protocol of `KdDbEntityPE`.
 void addXs();

@@ -111,6 +111,13 @@ const PropertyRow* findConstraintRow(const KdString& name)
     return row == std::end(kRows) ? nullptr : row;
 }
 
+LastingRow findLastingConstraintRow(const KdString& name)
+{
+    const bool areThere =
+        std::ranges::all_of(kRows, [](const PropertyRow& each) { return each.key.isThere(); });
+    return areThere ? LastingRow(findConstraintRow(name)) : std::nullopt;
+}
+
 KdDbAssocVariable* variableOfConstraint(const KdDbDimension* dimension)
 {
     if (!dimension || !dimension->isConstraintObject())

@@ -11,6 +11,8 @@ std::span<const PropertyRow> constraintRows();
 
 /// The row with that key, or null.
 const PropertyRow* findConstraintRow(const KdString& name);
+/// The same, as `findLastingRow` has it.
+LastingRow findLastingConstraintRow(const KdString& name);
 
 /// See `KdDbDimension_Extension::getVariableFromDimConstraint`.
 KdDbAssocVariable* variableOfConstraint(const KdDbDimension* dimension);

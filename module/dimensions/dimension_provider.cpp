@@ -40,6 +40,17 @@ int KdDbDimension_Extension::PropertyValueGet(const KdDbEntity* entity, KdString
     return KdDbEntity_Extension::PropertyValueGet(entity, name, result, asDisplayText, withChoices);
 }
 
+LastingRow KdDbDimension_Extension::lastingRow(const KdRxClass& rxClass, const KdString& key)
+{
+    if (!rxClass.isDerivedFrom(KdDbDimension::desc()))
+        return nullptr;
+    for (const auto rows : {arrowRows(), associativeRows(), dimensionRows()})
+        if (const LastingRow row = findLastingRow(rows, key); row != nullptr)
+            return row;
+    const LastingRow row = findLastingConstraintRow(key);
+    return row == nullptr ? findLastingRow(generalRows(), key) : row;
+}
+
 bool KdDbDimension_Extension::isSuppressed(signed char value, signed char mask)
 {
     return suppressesZeros(value, mask);

@@ -4,6 +4,8 @@
 #include <entities/dimension.h>
 #include <plugin/entity_pe.h>
 
+#include <providers/lasting_row.h>
+
 class KdDbAssocVariable;
 
 class KdDbDimension_Extension : public KdDbEntity_Extension
@@ -15,6 +17,8 @@ class KdDbDimension_Extension : public KdDbEntity_Extension
                       KdArray<bool>& flags) override;
     int PropertyValueGet(const KdDbEntity* entity, KdString name, ResBuf*& result,
                          bool asDisplayText, bool withChoices) override;
+    using SaysRows = KdDbDimension_Extension;
+    LastingRow lastingRow(const KdRxClass& rxClass, const KdString& key);
 
     /// The status that tells the provider of a kind to list nothing more.
     static constexpr int kListIsComplete = 1;

@@ -31,6 +31,7 @@ class KdDbPolyline_Extension
                       KdArray<bool>& flags) override;
     int PropertyValueGet(const KdDbEntity* entity, KdString name, ResBuf*& result,
                          bool asDisplayText, bool withChoices) override;
+    using SaysRows = KdDbPolyline_Extension; ///< as its table does
 };
 
 /// A helix is a curve to the host, but not to the protocol.
@@ -42,6 +43,7 @@ class KdDbHelix_Extension
 
     int PropertyValueGet(const KdDbEntity* entity, KdString name, ResBuf*& result,
                          bool asDisplayText, bool withChoices) override;
+    using SaysRows = KdDbHelix_Extension; ///< as its table does
     /// 15 for a null entity. A helix that has no conversion to a curve, as all have at present,
     /// leaves `length` alone.
     int getEntityTotalLength(const KdDbEntity* entity, double& length) const override;

@@ -20,10 +20,3 @@ double curveArea(const KdDbCurve& curve);
 KdString areaText(double area, const wchar_t* otherwise = L"");
 /// The same for the area of a curve; a curve without one has 0.
 KdString curveAreaText(const KdDbCurve& curve);
-
-/// Reader of rows that are listed like others, but answered by a provider's own operation before
-/// the rows are looked at.
-inline bool answeredByTheProvider(const PropertyRequest&, ValueKind)
-{
-    return false;
-}

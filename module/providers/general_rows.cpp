@@ -181,3 +181,8 @@ std::span<const PropertyRow> generalRows()
 {
     return kRows;
 }
+
+bool followsFromLayer(const PropertyRow& row)
+{
+    return row.read == name<&KdDbEntity::layer>;
+}

@@ -7,6 +7,7 @@
 
 #include <platform/resources.h>
 
+#include <providers/row_readers.h>
 #include <values/resource_string.h>
 
 namespace {
@@ -98,6 +99,11 @@ KdString ResourceText::text() const
     return KdString(static_cast<const wchar_t*>(__ResourceString(id, defaultText, nullptr)));
 }
 
+bool ResourceText::isThere() const
+{
+    return !storedText(*this).empty();
+}
+
 bool ResourceText::matches(std::wstring_view other) const
 {
     return isText(*this, other, std::equal_to<>());
@@ -127,6 +133,17 @@ const PropertyRow* findRow(std::span<const PropertyRow> rows, const KdString& na
     if (!last.isFor(name))
         last.search(rows, name);
     return last.found();
+}
+
+LastingRow findLastingRow(std::span<const PropertyRow> rows, const KdString& name)
+{
+    for (const PropertyRow& row : rows) {
+        if (!row.key.isThere())
+            return std::nullopt;
+        if (row.key.matches(name))
+            return row.read == answeredByTheProvider ? LastingRow() : &row;
+    }
+    return nullptr;
 }
 
 int answerRow(const PropertyRow& row, const PropertyRequest& request)

@@ -1,6 +1,7 @@
 /// The rows of which providers are made: one for each property.
 #pragma once
 
+#include <optional>
 #include <span>
 #include <string_view>
 
@@ -15,6 +16,8 @@ struct ResourceText
     const wchar_t* defaultText;
 
     KdString text() const;
+    /// True if the library has the text, so that no use of it complains.
+    bool isThere() const;
     /// True if `other` is this text, letter by letter. Allocates nothing.
     bool matches(std::wstring_view other) const;
     /// The same, whatever the case of the letters.
@@ -53,6 +56,14 @@ void listRows(std::span<const PropertyRow> rows, const KdDbEntity* entity, KdArr
 
 /// The first row with that key, or null.
 const PropertyRow* findRow(std::span<const PropertyRow> rows, const KdString& name);
+
+/// The row that answers a key for every entity of a class, or null where nothing answers it.
+/// Nothing where each entity has to be asked for itself.
+using LastingRow = std::optional<const PropertyRow*>;
+
+/// As `findRow`, for a caller that keeps the answer. Nothing where the provider answers the key by
+/// itself, or where the library lacks a text: that is to be told at each use.
+LastingRow findLastingRow(std::span<const PropertyRow> rows, const KdString& name);
 
 /// Reads the row's value and choices. Returns 1, or 0 if the row says so.
 int answerRow(const PropertyRow& row, const PropertyRequest& request);

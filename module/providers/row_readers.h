@@ -123,6 +123,13 @@ bool name(const PropertyRequest& request, ValueKind kind)
     return value<Getter>(request, request.asDisplayText ? ResBuf::kString : kind);
 }
 
+/// Reader of rows that are listed like others, but answered by a provider's own operation before
+/// the rows are looked at.
+inline bool answeredByTheProvider(const PropertyRequest&, ValueKind)
+{
+    return false;
+}
+
 // Choices.
 
 /// Nothing accompanies the value.

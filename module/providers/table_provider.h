@@ -3,7 +3,7 @@
 
 #include <utility>
 
-#include <providers/property_row.h>
+#include <providers/lasting_row.h>
 
 /// Lists the base's properties and then `Self::rows()`; answers a key from the rows or asks the
 /// base. Entities that are not of `Host` are not answered for at all.
@@ -27,6 +27,15 @@ class TableProvider : public Base
         if (const PropertyRow* row = findRow(Self::rows(), name))
             return answerRow(*row, {*entity, *result, asDisplayText, withChoices});
         return Base::PropertyValueGet(entity, std::move(name), result, asDisplayText, withChoices);
+    }
+
+    using SaysRows = TableProvider;
+    LastingRow lastingRow(const KdRxClass& rxClass, const KdString& key)
+    {
+        if (!rxClass.isDerivedFrom(Host::desc()))
+            return nullptr;
+        const LastingRow own = findLastingRow(Self::rows(), key);
+        return own == nullptr ? lastingRowOf<Base>(*this, rxClass, key) : own;
     }
 };
 

@@ -84,8 +84,8 @@ bool compareColors(const ResBuf& value, const ResBuf& filter, Operators how)
 
 bool compareTexts(const ResBuf& value, const ResBuf& filter, Operators how)
 {
-    const KdString v = value.getString();
-    const KdString f = filter.getString();
+    const KdString& v = value.text();
+    const KdString& f = filter.text();
     switch (how) {
     case Operators::Equals:
         return v.compare(f) == 0;
@@ -108,7 +108,7 @@ std::int32_t leadingNumber(const KdString& text)
 bool compareTransparencies(const ResBuf& value, const ResBuf& filter, Operators how)
 {
     const KdString v = value.getString().makeUpper();
-    const KdString f = filter.getString();
+    const KdString& f = filter.text();
     const bool byLayer[] = {v == L"BYLAYER", f == L"BYLAYER"};
     const bool byBlock[] = {v == L"BYBLOCK", f == L"BYBLOCK"};
 

@@ -122,6 +122,19 @@ void ResBuf::setRestype(int restype)
     m_restype = restype;
 }
 
+void ResBuf::clearValue()
+{
+    const type_factory* const factory = &factoryOf(m_restype);
+    if (factory == &kValueFactories.text)
+        *m_data.text = KdString();
+    else if (factory == &kValueFactories.point)
+        *m_data.point = PointStorage();
+    else if (factory == &kValueFactories.color)
+        *m_data.color = KdCmColor();
+    else
+        m_data = {};
+}
+
 KdRxClass* ResBuf::desc()
 {
     return findDescriptor(gpDesc, kClassName);
@@ -135,7 +148,13 @@ void ResBuf::rxInit()
 
 KdString ResBuf::getString() const
 {
-    return holdsText(m_restype) ? *m_data.text : KdString();
+    return text();
+}
+
+const KdString& ResBuf::text() const
+{
+    static const KdString neutral;
+    return holdsText(m_restype) ? *m_data.text : neutral;
 }
 
 bool ResBuf::getBool() const

@@ -20,12 +20,28 @@ class ValueChain
             m_head = ResBuf::newRb(ResBuf::kNone);
             return;
         }
-        ResBuf* followers = m_head->next();
-        m_head->setNext(nullptr);
-        ResBuf::relRb(followers);
+        freeFollowers();
         m_head->setRestype(ResBuf::kNone);
+    }
+    /// Leaves one record with the neutral value of the kind it has, so that a value of the same
+    /// kind finds its storage.
+    void clear()
+    {
+        if (!m_head)
+            return reset();
+        freeFollowers();
+        m_head->clearValue();
     }
 
   private:
+    void freeFollowers()
+    {
+        if (!m_head->next())
+            return;
+        ResBuf* followers = m_head->next();
+        m_head->setNext(nullptr);
+        ResBuf::relRb(followers);
+    }
+
     ResBuf* m_head;
 };

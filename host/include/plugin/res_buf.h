@@ -83,6 +83,8 @@ class KW_EXPORT ResBuf : public KdRxObject
     /// Changes the kind. The value stays, bit by bit, while the new kind is kept in the same way as
     /// the old one (texts, points, colours, or plain bytes); otherwise it becomes neutral.
     void setRestype(int restype);
+    /// Makes the value neutral and keeps the kind, and with it the storage.
+    void clearValue();
 
     /// The class registered as "ResBuf", looked up until it is found; null while there is none.
     static KdRxClass* desc();
@@ -96,6 +98,8 @@ class KW_EXPORT ResBuf : public KdRxObject
 
     /// Text kinds; otherwise empty. A copy, which shares its characters.
     KdString getString() const;
+    /// The same without a copy.
+    const KdString& text() const;
     /// `kBool`, and `kInt16` as not 0; otherwise false.
     bool getBool() const;
     /// `kInt8`; otherwise 0.
