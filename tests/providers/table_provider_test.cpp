@@ -68,6 +68,13 @@ class OverGrudging : public TableProvider<OverGrudging, Grudging, KdDbCircle>
     static std::span<const PropertyRow> rows() { return kCircleRows; }
 };
 
+/// Answers by itself, whatever its base says of rows.
+class Stubborn : public CircleToy
+{
+  public:
+    int PropertyValueGet(const KdDbEntity*, KdString, ResBuf*&, bool, bool) override { return 0; }
+};
+
 KW_CLASS_CHECKED_PROVIDER(CheckedToy, KdDbEntity_Extension, KdDbCircle)
 KW_PLAIN_PROVIDER(PlainToy, KdDbEntity_Extension)
 
@@ -202,6 +209,50 @@ TEST_F(Table, IsNotNeededByProvidersThatAnswerTheGeneralPropertiesOfEveryEntity)
     EXPECT_EQ(list(plain, line).keys, kGeneral);
     EXPECT_EQ(ask(plain, line, kLayerKey).status, 1);
     EXPECT_EQ(ask(plain, circle, kLayerKey).status, 1);
+}
+
+template <class Provider>
+LastingRow lastingRowFor(const wchar_t* key, const KdRxClass* rxClass = KdDbCircle::desc())
+{
+    Provider provider;
+    return lastingRowOf(provider, *rxClass, key);
+}
+
+TEST_F(Table, TellsByWhichOfItsRowsItAnswers)
+{
+    EXPECT_EQ(lastingRowFor<CircleToy>(kRadiusKey), &kCircleRows[0]);
+    EXPECT_EQ(lastingRowFor<WheelToy>(kRadiusKey), &kWheelRows[1]);
+    EXPECT_EQ(lastingRowFor<WheelToy>(L"Geometry:Area"), &kCircleRows[1]);
+}
+
+TEST_F(Table, TellsByWhichRowOfItsBaseItAnswers)
+{
+    for (const LastingRow row :
+         {lastingRowFor<CircleToy>(kLayerKey), lastingRowFor<CheckedToy>(kLayerKey),
+          lastingRowFor<PlainToy>(kLayerKey)}) {
+        ASSERT_TRUE(row && *row);
+        EXPECT_TRUE((*row)->key.matches(kLayerKey));
+        EXPECT_TRUE(followsFromLayer(**row));
+    }
+}
+
+TEST_F(Table, TellsThatNoRowAnswers)
+{
+    EXPECT_EQ(lastingRowFor<CircleToy>(L"Geometry:Flavour"), nullptr);
+    EXPECT_EQ(lastingRowFor<CircleToy>(L""), nullptr);
+    EXPECT_EQ(lastingRowFor<CircleToy>(kLayerKey, KdDbLine::desc()), nullptr);
+}
+
+TEST_F(Table, TellsNothingWhereABaseAnswersByItself)
+{
+    EXPECT_EQ(lastingRowFor<OverGrudging>(kRadiusKey), &kCircleRows[0]);
+    EXPECT_EQ(lastingRowFor<OverGrudging>(kLayerKey), std::nullopt);
+}
+
+TEST_F(Table, TellsNothingOfAProviderThatAnswersByItself)
+{
+    EXPECT_EQ(lastingRowFor<Grudging>(kLayerKey), std::nullopt);
+    EXPECT_EQ(lastingRowFor<Stubborn>(kRadiusKey), std::nullopt);
 }
 
 template <class Provider>

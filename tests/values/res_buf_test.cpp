@@ -561,4 +561,32 @@ TEST_F(ResBufClass, LetsChainsBeWalkedWhetherRegisteredOrNot)
     EXPECT_EQ(head->last(), tail);
 }
 
+TEST(ResBufClearing, LeavesTheNeutralValueOfTheSameKind)
+{
+    for (const int kind : {5001, 5002, 5003, 5004, 5005, 5009, 5010, 5011, 8, 290, 441}) {
+        ResBuf record;
+        record.setRestype(kind);
+        record.setDouble(2.5);
+        record.setInt16(7);
+        record.setInt32(7);
+        record.setBool(true);
+        record.setString(L"text");
+        record.setPoint2d({1, 2});
+        record.setPoint3d({1, 2, 3});
+        KdCmColor red;
+        ASSERT_EQ(red.setColorIndex(1), eOk);
+        record.setColor(red);
+        record.clearValue();
+        EXPECT_EQ(record.restype(), kind);
+        EXPECT_EQ(record.getDouble(), 0.0);
+        EXPECT_EQ(record.getInt16(), 0);
+        EXPECT_EQ(record.getInt32(), 0);
+        EXPECT_FALSE(record.getBool());
+        EXPECT_TRUE(record.text().isEmpty());
+        EXPECT_EQ(record.getPoint2d().x, 0.0);
+        EXPECT_EQ(record.getPoint3d().z, 0.0);
+        EXPECT_EQ(record.getColor().color(), KdCmColor().color());
+    }
+}
+
 } // namespace
