@@ -62,6 +62,11 @@ ObjectMembers& KdDbDatabaseBuilder::membersForFilling(KdDbObject& object)
     return *object.m_members;
 }
 
+KdDbArena& KdDbDatabaseBuilder::addArena()
+{
+    return *m_database.m_moreArenas.emplace_back(std::make_unique<KdDbArena>());
+}
+
 template <class T>
 T& KdDbDatabaseBuilder::findOrAddEntry(KdDbDictionary& dictionary, const wchar_t* name)
 {

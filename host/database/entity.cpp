@@ -36,8 +36,8 @@ KdString KdDbEntity::layer() const
 KdCmColor KdDbEntity::color() const
 {
     KdCmColor color(data().color);
-    if (!data().colorName.isEmpty())
-        color.setNames(data().colorName);
+    if (!data().seldom->colorName.isEmpty())
+        color.setNames(data().seldom->colorName);
     return color;
 }
 
@@ -60,7 +60,7 @@ KdString KdDbEntity::plotStyleName() const
     KdDbDictionary* styles = nullptr;
     if (!database() || database()->getPlotStyleNameDictionary(styles, KdDb::kForRead) != eOk)
         return {};
-    KdDbObjectId wanted = data().plotStyle;
+    KdDbObjectId wanted = data().seldom->plotStyle;
     if (data().plotStyleKind == PlotStyle::DictionaryDefault &&
         styles->isKindOf(KdDbDictionaryWithDefault::desc()))
         wanted = static_cast<KdDbDictionaryWithDefault*>(styles)->defaultId();
@@ -75,11 +75,8 @@ void KdDbEntity::setPropertiesFrom(const KdDbEntity& other)
     EntityMembers& mine = edit();
     const EntityMembers& theirs = other.data();
     mine.linetype = theirs.linetype;
-    mine.plotStyle = theirs.plotStyle;
-    mine.colorName = theirs.colorName;
-    mine.linetypeScale = theirs.linetypeScale;
+    mine.seldom = theirs.seldom;
     mine.color = theirs.color;
-    mine.transparency = theirs.transparency;
     mine.lineweight = theirs.lineweight;
     mine.plotStyleKind = theirs.plotStyleKind;
     mine.shadows = theirs.shadows;

@@ -127,12 +127,6 @@ const resbuf* KdDbObject::extendedData(const wchar_t* application, const resbuf*
     return nullptr;
 }
 
-std::span<const KdDbObjectId> KdDbObject::reactors() const
-{
-    const auto& reactors = members().reactors;
-    return reactors ? std::span<const KdDbObjectId>(*reactors) : std::span<const KdDbObjectId>();
-}
-
 bool KdDbObject::isAnnotative() const
 {
     // "AnnotativeData", {, the version, the flag, }

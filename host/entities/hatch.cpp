@@ -103,7 +103,7 @@ Pieces linePieces(const KdDbHatch& hatch, const HatchContent& content, const KdG
         piece->setPropertiesFrom(hatch);
         piece->edit().start = toWorld(line.start);
         piece->edit().end = toWorld(line.end);
-        piece->edit().extrusion.direction = content.extrusion.direction;
+        piece->edit().extrusion.setDirection(content.extrusion.direction());
         pieces.push_back(std::move(piece));
     }
     return pieces;

@@ -10,6 +10,7 @@ void PolylineMembers::setLastBulge(double bulge)
 {
     if (points.empty() || bulge == bulgeAt(points.size() - 1))
         return;
+    bulges.reserve(points.capacity()); // mostly known beforehand
     bulges.resize(points.size(), 0.0);
     bulges.back() = bulge;
 }

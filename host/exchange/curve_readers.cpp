@@ -103,13 +103,13 @@ void readPoint(RecordReader& reader, PointMembers& point)
 }
 
 constexpr MemberReaderRow kRows[] = {
-    memberReader<KdDbLine, LineMembers, readLine>(),
-    memberReader<KdDbCircle, CircleMembers, readCircle>(),
-    memberReader<KdDbArc, ArcMembers, readArc>(),
-    memberReader<KdDbEllipse, EllipseMembers, readEllipse>(),
-    memberReader<KdDbRay, RayMembers, readRay>(),
-    memberReader<KdDbXline, RayMembers, readRay>(),
-    memberReader<KdDbPoint, PointMembers, readPoint>(),
+    beside(memberReader<KdDbLine, LineMembers, readLine>()),
+    beside(memberReader<KdDbCircle, CircleMembers, readCircle>()),
+    beside(memberReader<KdDbArc, ArcMembers, readArc>()),
+    beside(memberReader<KdDbEllipse, EllipseMembers, readEllipse>()),
+    beside(memberReader<KdDbRay, RayMembers, readRay>()),
+    beside(memberReader<KdDbXline, RayMembers, readRay>()),
+    beside(memberReader<KdDbPoint, PointMembers, readPoint>()),
 };
 
 } // namespace

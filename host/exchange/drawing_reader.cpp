@@ -1,12 +1,14 @@
 #include <exchange/drawing_reader.h>
 
-#include <algorithm>
 #include <new>
+
+#include <malloc.h>
 
 #include <entities/block_nesting.h>
 
 #include "index_pass.h"
 #include "member_source.h"
+#include "whole_reading.h"
 
 namespace {
 
@@ -23,29 +25,6 @@ Progress partOf(const Progress& progress, double from, double to)
     if (!progress)
         return {};
     return [&progress, from, to](double done) { return progress(from + (to - from) * done); };
-}
-
-/// Reads the members of all objects; false if cancelled. Reports by the bytes that were read and by
-/// the number of objects, since both take their time.
-bool readAllMembers(const KdDbDatabase& database, std::size_t fileSize, const Progress& progress)
-{
-    constexpr std::size_t kBytesBetweenReports = 1u << 20;
-    constexpr std::size_t kObjectCost = 64; // counts as so many bytes
-    const std::size_t all = fileSize + kObjectCost * database.objects().size();
-    std::size_t done = 0;
-    std::size_t nextReport = 0;
-    // Reading a member may add a record that was only referred to, so the end moves.
-    for (std::size_t i = 0; i < database.objects().size(); ++i) {
-        if (progress && done >= nextReport) {
-            if (!progress(static_cast<double>(std::min(done, all)) / static_cast<double>(all)))
-                return false;
-            nextReport = done + kBytesBetweenReports;
-        }
-        const KdDbObject& object = *database.objects()[i];
-        object.extensionDictionary(); // any member brings all
-        done += object.source().length + kObjectCost;
-    }
-    return true;
 }
 
 void noteLoops(const KdDbDatabase& database, dxf::Findings& findings)
@@ -98,7 +77,9 @@ KdErrorStatus read(const std::filesystem::path& file, std::unique_ptr<KdDbDataba
     KdDbDatabaseBuilder(*result).setSource(std::make_unique<dxf::MemberSource>(std::move(owned)));
     pass.finish();
     if (options.readAllMembers) {
-        if (!readAllMembers(*result, source.bytes.size(), partOf(progress, indexed, 1.0)))
+        const unsigned threads =
+            options.threads > 0 ? options.threads : dxf::threadsWorthWhile(*result);
+        if (!dxf::readAllMembers(source, partOf(progress, indexed, 1.0), threads))
             return cancelled(report);
         noteLoops(*result, source.findings);
     }
@@ -113,6 +94,7 @@ KdErrorStatus read(const std::filesystem::path& file, std::unique_ptr<KdDbDataba
     report.totalFindings = source.findings.total();
     report.complete = !source.findings.loseContent();
     database = std::move(result);
+    malloc_trim(0); // what reading took for itself alone
     return eOk;
 }
 

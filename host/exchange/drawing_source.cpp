@@ -4,6 +4,15 @@
 
 namespace dxf {
 
+DrawingSource::DrawingSource(Beside beside)
+    : database(beside.other.database),
+      isBeside(true),
+      form(beside.other.form),
+      version(beside.other.version),
+      decoder(beside.other.decoder.another())
+{
+}
+
 KdDbObjectId DrawingSource::block(const Group& name)
 {
     const auto known = blocks.find(name.text);

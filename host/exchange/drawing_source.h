@@ -27,9 +27,10 @@ template <class Table>
 class NamedRecords
 {
   public:
-    /// The record of that name. One that is not there is made with its defaults, which is noted.
+    /// The record of that name. One that is not there is noted and, if `make`, made with its
+    /// defaults.
     KdDbObjectId find(KdDbDatabase& database, const TextDecoder& decoder, Findings& findings,
-                      DrawingFinding missing, const Group& name, KdDbHandle user)
+                      DrawingFinding missing, const Group& name, KdDbHandle user, bool make)
     {
         const auto known = m_ids.find(name.text);
         if (known != m_ids.end())
@@ -38,6 +39,8 @@ class NamedRecords
         KdDbObjectId id;
         if (database.table<Table>().getIdAt(text.kwszPtr(), id) != eOk) {
             findings.add(missing, name.offset, text, user);
+            if (!make)
+                return {};
             id = database.addRecord<Table>(text)->objectId();
         }
         m_ids.emplace(name.text, id);
@@ -51,21 +54,29 @@ class NamedRecords
 struct DrawingSource
 {
     explicit DrawingSource(KdDbDatabase& owner) : database(owner) {}
+    /// A source over the bytes of `other`, which must outlive it, for reading members in a thread
+    /// of its own; see `mayBeReadBeside`. It never changes the database. An object of which it
+    /// notes a finding is to be read again by `other`.
+    struct Beside
+    {
+        const DrawingSource& other;
+    };
+    explicit DrawingSource(Beside beside);
 
     KdDbObjectId linetype(const Group& name)
     {
         return linetypes.find(database, decoder, findings, DrawingFinding::UndefinedLinetype, name,
-                              reading);
+                              reading, !isBeside);
     }
     KdDbObjectId textStyle(const Group& name)
     {
         return textStyles.find(database, decoder, findings, DrawingFinding::UndefinedStyle, name,
-                               reading);
+                               reading, !isBeside);
     }
     KdDbObjectId dimensionStyle(const Group& name)
     {
         return dimensionStyles.find(database, decoder, findings, DrawingFinding::UndefinedStyle,
-                                    name, reading);
+                                    name, reading, !isBeside);
     }
     /// The null id if there is no such block, which is noted.
     KdDbObjectId block(const Group& name);
@@ -78,6 +89,7 @@ struct DrawingSource
     }
 
     KdDbDatabase& database;
+    const bool isBeside = false; ///< it only reads along for another source
     FileBytes bytes;
     FileForm form;
     KdDbHandle reading = 0; ///< of the object whose members are being read

@@ -12,10 +12,10 @@ inline bool takeExtrusion(RecordReader& reader, Extrusion& extrusion)
 {
     switch (reader.code()) {
     case 39:
-        extrusion.thickness = reader.real();
+        extrusion.setThickness(reader.real());
         return true;
     case 210:
-        extrusion.direction = reader.vector();
+        extrusion.setDirection(reader.vector());
         return true;
     default:
         return false;

@@ -41,9 +41,9 @@ void readFilledFace(RecordReader& reader, FilledFaceMembers& face)
 }
 
 constexpr MemberReaderRow kRows[] = {
-    memberReader<KdDbFace, FaceMembers, readFace>(),
-    memberReader<KdDbSolid, FilledFaceMembers, readFilledFace>(),
-    memberReader<KdDbTrace, FilledFaceMembers, readFilledFace>(),
+    beside(memberReader<KdDbFace, FaceMembers, readFace>()),
+    beside(memberReader<KdDbSolid, FilledFaceMembers, readFilledFace>()),
+    beside(memberReader<KdDbTrace, FilledFaceMembers, readFilledFace>()),
 };
 
 } // namespace

@@ -21,7 +21,7 @@ class LoopReader
 {
   public:
     LoopReader(RecordReader& reader, HatchContent& hatch) : m_reader(reader), m_hatch(hatch) {}
-    ~LoopReader() { finishEdge(); }
+    ~LoopReader() { finishLoop(); }
     LoopReader(const LoopReader&) = delete;
     LoopReader& operator=(const LoopReader&) = delete;
 
@@ -47,6 +47,7 @@ class LoopReader
     void beginEdge();
     void finishEdge();
     void finishArc(bool isCircle);
+    void finishLoop();
 
     RecordReader& m_reader;
     HatchContent& m_hatch;
@@ -66,13 +67,13 @@ bool LoopReader::take()
     case 91:
         return true; // the number of loops
     case 92:
-        finishEdge();
+        finishLoop();
         m_isInLoops = true;
         m_hatch.loops.emplace_back().type = m_reader.integer();
         return true;
     case 75: // what comes behind the loops
     case 76:
-        finishEdge();
+        finishLoop();
         m_isInLoops = false;
         return false;
     case 93:
@@ -199,6 +200,16 @@ void LoopReader::beginEdge()
     m_radius = 0.0;
     m_isCounterClockwise = true;
     m_spline = {};
+}
+
+/// Gives back the room that its lists took beforehand.
+void LoopReader::finishLoop()
+{
+    finishEdge();
+    if (m_hatch.loops.empty())
+        return;
+    loop().vertices.shrink_to_fit();
+    loop().edges.shrink_to_fit();
 }
 
 void LoopReader::finishEdge()
@@ -416,7 +427,7 @@ void readMPolygon(RecordReader& reader, HatchMembers& polygon)
 }
 
 constexpr MemberReaderRow kRows[] = {
-    memberReader<KdDbHatch, HatchMembers, readHatch>(),
+    beside(memberReader<KdDbHatch, HatchMembers, readHatch>()),
     memberReader<KdDbMPolygon, HatchMembers, readMPolygon>(),
 };
 

@@ -193,10 +193,12 @@ void chooseEncoding(DrawingSource& source, std::string_view codePage, std::uint6
     if (!codePage.empty() && !source.decoder.useCodePage(codePage))
         source.findings.add(DrawingFinding::UnknownCodePage, offset,
                             source.decoder.decode(codePage));
-    if (holdsUtf8(source)) {
-        source.findings.add(DrawingFinding::CodePageIsWrong, offset);
-        source.decoder.useUtf8();
-    }
+    source.decoder.decideLater([&source, offset] {
+        const bool isWrong = holdsUtf8(source);
+        if (isWrong)
+            source.findings.add(DrawingFinding::CodePageIsWrong, offset);
+        return isWrong;
+    });
 }
 
 void readHeader(RecordCursor& cursor, DrawingSource& source, KdString& version)

@@ -52,7 +52,7 @@ constexpr FieldRow<UnderlayMembers> kUnderlayFields[] = {
     {42, [](RecordReader& reader, UnderlayMembers& page) { page.scale.sy = reader.real(); }},
     {43, [](RecordReader& reader, UnderlayMembers& page) { page.scale.sz = reader.real(); }},
     {50, [](RecordReader& reader, UnderlayMembers& page) { page.rotation = reader.angle(); }},
-    {210, [](RecordReader& reader, UnderlayMembers& page) { page.extrusion.direction = reader.vector(); }},
+    {210, [](RecordReader& reader, UnderlayMembers& page) { page.extrusion.setDirection(reader.vector()); }},
 };
 constexpr MemberReaderRow kRows[] = {
     memberReader<KdDbUnderlayReference, UnderlayMembers, readFields<kUnderlayFields>>(),

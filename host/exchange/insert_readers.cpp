@@ -38,7 +38,7 @@ bool takeBlockReference(RecordReader& reader, BlockReferenceMembers& reference)
         reference.rotation = reader.angle();
         return true;
     case 210:
-        reference.extrusion.direction = reader.vector();
+        reference.extrusion.setDirection(reader.vector());
         return true;
     default:
         return false;
@@ -82,8 +82,8 @@ void readMInsertBlock(RecordReader& reader, MInsertBlockMembers& reference)
 }
 
 constexpr MemberReaderRow kRows[] = {
-    memberReader<KdDbBlockReference, BlockReferenceMembers, readBlockReference>(),
-    memberReader<KdDbMInsertBlock, MInsertBlockMembers, readMInsertBlock>(),
+    beside(memberReader<KdDbBlockReference, BlockReferenceMembers, readBlockReference>()),
+    beside(memberReader<KdDbMInsertBlock, MInsertBlockMembers, readMInsertBlock>()),
 };
 
 } // namespace

@@ -49,7 +49,6 @@ bool MappedFile::map(int descriptor, const struct stat& status, std::size_t read
         munmap(place, reserved);
         return false;
     }
-    madvise(place, size, MADV_SEQUENTIAL);
     m_data = static_cast<char*>(place);
     m_size = size;
     m_reserved = reserved;

@@ -13,6 +13,7 @@ struct MemberReaderRow
 {
     KdRxClass* (*rxClass)();
     void (*read)(RecordReader&, ObjectMembers&);
+    bool mayBeBeside = false; ///< see `beside`
 };
 
 /// A row for a function that takes the class's own record.
@@ -22,6 +23,14 @@ constexpr MemberReaderRow memberReader()
     return {Class::desc, [](RecordReader& reader, ObjectMembers& members) {
                 Read(reader, static_cast<Members&>(members));
             }};
+}
+
+/// The row of a function that changes nothing but its record and asks no other object for anything
+/// but its class, so that it may run beside others of its kind.
+constexpr MemberReaderRow beside(MemberReaderRow row)
+{
+    row.mayBeBeside = true;
+    return row;
 }
 
 std::span<const MemberReaderRow> tableReaders();

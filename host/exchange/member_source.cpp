@@ -7,12 +7,12 @@
 namespace dxf {
 namespace {
 
-using Read = void (*)(RecordReader&, ObjectMembers&);
-
 void readNothingMore(RecordReader& reader, ObjectMembers&)
 {
     reader.skipRest();
 }
+
+constexpr MemberReaderRow kOtherClasses{KdDbObject::desc, readNothingMore, true};
 
 /// The rows of all families.
 constexpr std::span<const MemberReaderRow> (*kFamilies[])() = {
@@ -34,23 +34,29 @@ class ReaderMap
     {
         for (const auto readers : kFamilies) {
             for (const MemberReaderRow& row : readers())
-                m_readers.emplace(row.rxClass(), row.read);
+                m_rows.emplace(row.rxClass(), &row);
         }
     }
 
-    Read find(const KdRxClass* rxClass) const
+    const MemberReaderRow& find(const KdRxClass* rxClass) const
     {
         for (; rxClass; rxClass = rxClass->myParent()) {
-            const auto found = m_readers.find(rxClass);
-            if (found != m_readers.end())
-                return found->second;
+            const auto found = m_rows.find(rxClass);
+            if (found != m_rows.end())
+                return *found->second;
         }
-        return readNothingMore;
+        return kOtherClasses;
     }
 
   private:
-    std::unordered_map<const KdRxClass*, Read> m_readers;
+    std::unordered_map<const KdRxClass*, const MemberReaderRow*> m_rows;
 };
+
+const MemberReaderRow& readerOf(const KdDbObject& object)
+{
+    static const ReaderMap readers;
+    return readers.find(object.isA());
+}
 
 } // namespace
 
@@ -60,14 +66,18 @@ std::string_view MemberSource::bytes(SourceRange range) const
     return range.offset < all.size() ? all.substr(range.offset, range.length) : std::string_view();
 }
 
+bool mayBeReadBeside(const KdDbObject& object)
+{
+    return readerOf(object).mayBeBeside;
+}
+
 void readMembers(DrawingSource& source, const KdDbObject& object, SourceRange range,
                  ObjectMembers& members)
 {
-    static const ReaderMap readers;
     if (range.length == 0)
         return;
     RecordReader reader(source, object, range, members);
-    readers.find(object.isA())(reader, members);
+    readerOf(object).read(reader, members);
     reader.skipRest(); // a reader may stop early; extended data stands last
 }
 

@@ -7,6 +7,10 @@
 
 namespace dxf {
 
+/// True if the members of such objects may be read in several threads at the same time, each with
+/// a source of its own.
+bool mayBeReadBeside(const KdDbObject& object);
+
 /// Reads the record in `range` into `members`, the record of `object`.
 void readMembers(DrawingSource& source, const KdDbObject& object, SourceRange range,
                  ObjectMembers& members);

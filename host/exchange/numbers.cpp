@@ -34,6 +34,9 @@ bool readPlainReal(std::string_view text, double& value)
     constexpr double kPowers[] = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
                                   1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
     constexpr std::size_t kMostDigits = 15;
+    constexpr std::size_t kSignAndPoint = 2;
+    if (text.size() > kMostDigits + kSignAndPoint) // full precision is frequent, too
+        return false;
     const bool isNegative = text.starts_with('-');
     text.remove_prefix(isNegative ? 1 : 0);
     std::int64_t digits = 0;

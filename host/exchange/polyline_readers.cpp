@@ -196,7 +196,7 @@ void read2dVertex(RecordReader& reader, Vertex2dMembers& vertex)
 }
 
 constexpr MemberReaderRow kRows[] = {
-    memberReader<KdDbPolyline, PolylineMembers, readPolyline>(),
+    beside(memberReader<KdDbPolyline, PolylineMembers, readPolyline>()),
     memberReader<KdDb2dPolyline, Polyline2dMembers, read2dPolyline>(),
     memberReader<KdDb3dPolyline, Polyline3dMembers, read3dPolyline>(),
     memberReader<KdDbVertex, VertexMembers, readVertex>(),

@@ -12,6 +12,8 @@
 namespace dxf {
 namespace {
 
+using Seldom = EntityMembers::Seldom;
+
 constexpr std::string_view kEntitySubclass = "AcDbEntity";
 
 /// Parts in which the codes of general properties have other meanings. In all others they mean the
@@ -130,7 +132,7 @@ void RecordReader::readApplicationGroup()
             return;
         }
         if (isExtensionDictionary && (m_group.code == 360 || m_group.code == 350))
-            m_members.extensionDictionary = reference();
+            m_members.links.edit().extensionDictionary = reference();
         else if (isReactors && m_group.code == 330)
             addReactor(reference());
     }
@@ -138,11 +140,8 @@ void RecordReader::readApplicationGroup()
 
 void RecordReader::addReactor(KdDbObjectId reactor)
 {
-    if (reactor.isNull())
-        return;
-    if (!m_members.reactors)
-        m_members.reactors = std::make_unique<std::vector<KdDbObjectId>>();
-    m_members.reactors->push_back(reactor);
+    if (!reactor.isNull())
+        m_members.links.edit().reactors.push_back(reactor);
 }
 
 bool RecordReader::takeColor()
@@ -157,10 +156,10 @@ bool RecordReader::takeColor()
         m_hasTrueColor = true;
         return true;
     case 430:
-        m_entity->colorName = text();
+        m_entity->seldom.set(&Seldom::colorName, text());
         return true;
     case 440:
-        m_entity->transparency = static_cast<std::uint32_t>(integer());
+        m_entity->seldom.set(&Seldom::transparency, static_cast<std::uint32_t>(integer()));
         return true;
     default:
         return false;
@@ -216,7 +215,7 @@ bool RecordReader::takeProperty()
         m_entity->linetype = m_source.linetype(m_group);
         return true;
     case 48:
-        m_entity->linetypeScale = real();
+        m_entity->seldom.set(&Seldom::linetypeScale, real());
         return true;
     case 60:
         m_entity->invisible = flag();
@@ -228,7 +227,7 @@ bool RecordReader::takeProperty()
         m_entity->plotStyleKind = static_cast<EntityMembers::PlotStyle>(integer() & 3);
         return true;
     case 390:
-        m_entity->plotStyle = reference();
+        m_entity->seldom.set(&Seldom::plotStyle, reference());
         m_entity->plotStyleKind = EntityMembers::PlotStyle::ByName;
         return true;
     default:

@@ -71,11 +71,22 @@ void takeSpline(RecordReader& reader, SplineMembers& spline)
     }
 }
 
+/// Gives back the room that lists of unknown length took beforehand: many drawings are full of
+/// them.
+void finishSpline(SplineMembers& spline)
+{
+    spline.fitCurve();
+    spline.controlPoints.shrink_to_fit();
+    spline.fitPoints.shrink_to_fit();
+    spline.knots.shrink_to_fit();
+    spline.weights.shrink_to_fit();
+}
+
 void readSpline(RecordReader& reader, SplineMembers& spline)
 {
     while (reader.next())
         takeSpline(reader, spline);
-    spline.fitCurve();
+    finishSpline(spline);
 }
 
 /// Drawings number the constraints in another way; what is none of the three stays as it is.
@@ -133,7 +144,7 @@ void readHelix(RecordReader& reader, HelixMembers& helix)
         else
             takeSpline(reader, helix);
     }
-    helix.fitCurve();
+    finishSpline(helix);
 }
 
 constexpr MemberReaderRow kRows[] = {

@@ -67,7 +67,21 @@ bool isPlain(std::string_view bytes)
 
 } // namespace
 
-TextDecoder::TextDecoder() : m_page(CodePage::find("ANSI_1252")) {}
+TextDecoder::TextDecoder() : m_page(CodePage::find(m_pageName)) {}
+
+TextDecoder TextDecoder::another() const
+{
+    TextDecoder decoder;
+    decoder.useCodePage(m_pageName);
+    decoder.m_utf8 = m_utf8;
+    return decoder;
+}
+
+void TextDecoder::decide() const
+{
+    if (const auto areUtf8 = std::exchange(m_areUtf8, nullptr))
+        m_utf8 = areUtf8();
+}
 
 bool TextDecoder::useCodePage(std::string_view drawingName)
 {
@@ -75,12 +89,14 @@ bool TextDecoder::useCodePage(std::string_view drawingName)
     if (!page)
         return false;
     m_page = std::move(page);
+    m_pageName = drawingName;
     return true;
 }
 
 KdString TextDecoder::decode(std::string_view bytes) const
 {
-    return KdString(decodeWide(bytes));
+    bytes = bytes.substr(0, kLongestText);
+    return isPlain(bytes) ? KdString::fromAscii(bytes) : KdString(decodeWide(bytes));
 }
 
 std::wstring TextDecoder::decodeWide(std::string_view bytes) const
@@ -88,6 +104,8 @@ std::wstring TextDecoder::decodeWide(std::string_view bytes) const
     bytes = bytes.substr(0, kLongestText);
     if (isPlain(bytes))
         return std::wstring(bytes.begin(), bytes.end());
+    if (asciiEnd(bytes, 0) < bytes.size())
+        decide();
     std::wstring text;
     text.reserve(bytes.size());
     if (m_utf8)

@@ -3,9 +3,11 @@
 
 #include <array>
 #include <cstddef>
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include <runtime/kd_string.h>
 
@@ -18,10 +20,19 @@ class TextDecoder
   public:
     /// Reads ANSI_1252 until told otherwise.
     TextDecoder();
+    /// One that reads the same, for use in another thread. What is left for later must have been
+    /// decided.
+    TextDecoder another() const;
 
     /// Reads the code page of that drawing name; false, with nothing changed, if it is not known.
     bool useCodePage(std::string_view drawingName);
     void useUtf8() { m_utf8 = true; }
+    /// Has `areUtf8` asked once, before the first text with a byte above 127 is read: if it answers
+    /// true, texts are UTF-8 whatever the code page. Most drawings have no such text, and to find
+    /// out may take a look at the whole file.
+    void decideLater(std::function<bool()> areUtf8) { m_areUtf8 = std::move(areUtf8); }
+    /// Has that asked now, unless it was before.
+    void decide() const;
     const CodePage& codePage() const { return *m_page; }
 
     /// Of a longer text only so many bytes are read: a damaged file may be one single line.
@@ -37,9 +48,11 @@ class TextDecoder
     bool takePageEscape(std::wstring_view text, std::size_t& at, std::wstring& result) const;
     std::wstring withoutEscapes(std::wstring_view text) const;
 
+    std::string m_pageName = "ANSI_1252";
     std::unique_ptr<CodePage> m_page;
     mutable std::array<std::unique_ptr<CodePage>, 6> m_escapePages; ///< by number, made when needed
-    bool m_utf8 = false;
+    mutable bool m_utf8 = false;
+    mutable std::function<bool()> m_areUtf8; ///< empty once it was asked
 };
 
 } // namespace dxf

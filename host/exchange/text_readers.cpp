@@ -258,7 +258,7 @@ void readShape(RecordReader& reader, ShapeMembers& shape)
 }
 
 constexpr MemberReaderRow kRows[] = {
-    memberReader<KdDbText, TextMembers, readText>(),
+    beside(memberReader<KdDbText, TextMembers, readText>()),
     memberReader<KdDbAttribute, AttributeMembers, readAttribute>(),
     memberReader<KdDbAttributeDefinition, AttributeDefinitionMembers, readAttributeDefinition>(),
     memberReader<KdDbShape, ShapeMembers, readShape>(),

@@ -30,12 +30,18 @@ KdString::KdString(std::wstring_view text) : m_shared(allocate(text.size()))
         std::wmemcpy(m_shared->characters(), text.data(), text.size());
 }
 
-KdString::KdString(const char* text) : m_shared(allocate(text ? std::strlen(text) : 0))
+KdString::KdString(const char* text)
+    : KdString(fromAscii(text ? std::string_view(text) : std::string_view()))
 {
-    if (!m_shared)
-        return;
-    for (unsigned i = 0; i < m_shared->length; ++i)
-        m_shared->characters()[i] = static_cast<unsigned char>(text[i]);
+}
+
+KdString KdString::fromAscii(std::string_view text)
+{
+    KdString result;
+    result.m_shared = allocate(text.size());
+    for (std::size_t i = 0; i < text.size(); ++i)
+        result.m_shared->characters()[i] = static_cast<unsigned char>(text[i]);
+    return result;
 }
 
 KdString& KdString::operator=(const KdString& other) noexcept

@@ -1,3 +1,5 @@
+#include <span>
+
 #include <entities/center_object.h>
 
 #include "support.h"
@@ -201,8 +203,8 @@ TEST_F(CenterObject, IsFoundBehindACopyThatIsInNoDrawing)
 {
     makeMark();
     KdDbBlockReference copy;
-    copy.edit().reactors = std::make_unique<std::vector<KdDbObjectId>>(
-        reference->reactors().begin(), reference->reactors().end());
+    const std::span<const KdDbObjectId> reactors = reference->reactors();
+    copy.edit().links.edit().reactors.assign(reactors.begin(), reactors.end());
     EXPECT_EQ(KdSmartCenterDbxUtils::getSmartCenterObjIdFromObj(&copy), reference->objectId());
     EXPECT_EQ(ask(provider, &copy, L"Geometry:Cross Size").chain.front(), "5005 0.1x");
     EXPECT_TRUE(KdSmartCenterDbxUtils::getSmartCenterObjIdFromObj(nullptr).isNull());

@@ -83,7 +83,7 @@ KdDbDictionary* BlocksTest::extensionOf(KdDbObject* object)
     dictionary = new KdDbDictionary;
     EXPECT_EQ(drawing.addObject(dictionary, object->objectId()), eOk);
     const auto setExtension = [&](ObjectMembers& members) {
-        members.extensionDictionary = dictionary->objectId();
+        members.links.edit().extensionDictionary = dictionary->objectId();
     };
     if (object->isKindOf(KdDbBlockTableRecord::desc()))
         change(static_cast<KdDbBlockTableRecord*>(object), setExtension);

@@ -86,9 +86,8 @@ class BlocksTest : public provider_test::ProviderTest
             members.body = body->objectId();
             members.dependencies = dependencies;
         });
-        change(reference, [&](auto& members) {
-            members.reactors = std::make_unique<std::vector<KdDbObjectId>>(1, dependencies.front());
-        });
+        change(reference,
+               [&](auto& members) { members.links.edit().reactors = {dependencies.front()}; });
         return body;
     }
 

@@ -90,7 +90,7 @@ TEST_F(Request, ComparesNumbersByTheirSize)
     auto* wide = add(model());
     KdDbLine* opened = nullptr;
     ASSERT_EQ(kddbOpenObject(opened, wide->objectId(), KdDb::kForWrite), eOk);
-    opened->edit().linetypeScale = 2.5;
+    opened->edit().seldom.edit().linetypeScale = 2.5;
     opened->close();
     ask(property(L"\tGeneral:Linetype scale", ResBuf::kLinetypeScale, L">", L"1.5"));
     EXPECT_THAT(selection(), ElementsAre(wide->objectId()));

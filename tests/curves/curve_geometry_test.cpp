@@ -93,7 +93,7 @@ class CurveOfAnArc : public testing::TestWithParam<ArcRow>
         arc.edit().radius = 2;
         arc.edit().startAngle = GetParam().start;
         arc.edit().endAngle = GetParam().end;
-        arc.edit().extrusion.direction = GetParam().direction;
+        arc.edit().extrusion.setDirection(GetParam().direction);
     }
     KdGePoint3d pointOfArc(double parameter) const
     {
@@ -148,12 +148,12 @@ TEST(CircArc, CountsANormalWithinOneSixtyFourthAsNearZ)
 {
     KdDbArc arc;
     arc.edit().radius = 1;
-    arc.edit().extrusion.direction = {0.01, 0.01, 0.9999};
+    arc.edit().extrusion.setDirection({0.01, 0.01, 0.9999});
     const KdGeVector3d n = arc.normal();
     const KdGeVector3d expected = KdGeVector3d{n.z, 0, -n.x}.normal();
     const std::unique_ptr<KdGeCircArc3d> near(circArc3d(arc));
     expectNear(KdGePoint3d::kOrigin + near->refVec(), KdGePoint3d::kOrigin + expected);
-    arc.edit().extrusion.direction = {0.02, 0, 1};
+    arc.edit().extrusion.setDirection({0.02, 0, 1});
     const std::unique_ptr<KdGeCircArc3d> far(circArc3d(arc));
     expectNear(KdGePoint3d::kOrigin + far->refVec(), {0, 1, 0});
 }

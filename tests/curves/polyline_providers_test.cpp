@@ -153,7 +153,7 @@ class Polyline2dProvider : public CurveTest
         third = add2dVertex(polyline, {3, 4, 0});
         change(polyline, [](Polyline2dMembers& members) {
             members.elevation = 2;
-            members.extrusion.thickness = 1.5;
+            members.extrusion.setThickness(1.5);
         });
     }
     void setType(KdDb::Poly2dType type)

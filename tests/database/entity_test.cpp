@@ -95,7 +95,7 @@ TEST_F(EntityInModel, NamesItsPlotStyleAsTheDictionaryDoes)
     styles->close();
     edit([&](EntityMembers& members) {
         members.plotStyleKind = EntityMembers::PlotStyle::ByName;
-        members.plotStyle = ids[30];
+        members.seldom.edit().plotStyle = ids[30];
     });
     EXPECT_EQ(m_line->plotStyleName(), L"Style 30");
     EXPECT_EQ(m_database.openCount(), 0);
@@ -105,10 +105,10 @@ TEST_F(EntityInModel, HasNoPlotStyleNameWithoutTheStyle)
 {
     edit([&](EntityMembers& members) {
         members.plotStyleKind = EntityMembers::PlotStyle::ByName;
-        members.plotStyle = m_database.modelSpaceId();
+        members.seldom.edit().plotStyle = m_database.modelSpaceId();
     });
     EXPECT_EQ(m_line->plotStyleName(), L"");
-    edit([](EntityMembers& members) { members.plotStyle = {}; });
+    edit([](EntityMembers& members) { members.seldom.edit().plotStyle = {}; });
     EXPECT_EQ(m_line->plotStyleName(), L"");
 }
 
@@ -135,7 +135,7 @@ TEST_F(EntityInModel, HasAColorWithNames)
 {
     edit([](EntityMembers& members) {
         members.color = 0xC2102030;
-        members.colorName = L"BOOK$COLOR $1";
+        members.seldom.edit().colorName = L"BOOK$COLOR $1";
     });
     EXPECT_EQ(m_line->color().color(), 0xC2102030u);
     EXPECT_EQ(m_line->color().bookName(), L"BOOK");
@@ -144,7 +144,7 @@ TEST_F(EntityInModel, HasAColorWithNames)
 
 TEST_F(EntityInModel, HasAColorNameOutsideOfBooks)
 {
-    edit([](EntityMembers& members) { members.colorName = L"Sand"; });
+    edit([](EntityMembers& members) { members.seldom.edit().colorName = L"Sand"; });
     EXPECT_EQ(m_line->color().bookName(), L"");
     EXPECT_EQ(m_line->color().colorName(), L"Sand");
 }
@@ -152,9 +152,9 @@ TEST_F(EntityInModel, HasAColorNameOutsideOfBooks)
 TEST_F(EntityInModel, TellsWhatItsDataSay)
 {
     edit([](EntityMembers& members) {
-        members.linetypeScale = 2.5;
+        members.seldom.edit().linetypeScale = 2.5;
         members.lineweight = 35;
-        members.transparency = 0x02000080;
+        members.seldom.edit().transparency = 0x02000080;
         members.invisible = true;
     });
     EXPECT_EQ(m_line->linetypeScale(), 2.5);
@@ -168,10 +168,10 @@ TEST_F(EntityInModel, TakesOverThePropertiesOfAnother)
     m_line->setLayer(m_database.addRecord<KdDbLayerTable>(L"Rohre")->objectId());
     edit([](EntityMembers& members) {
         members.color = 0xC2102030;
-        members.colorName = L"Sand";
-        members.linetypeScale = 2.5;
+        members.seldom.edit().colorName = L"Sand";
+        members.seldom.edit().linetypeScale = 2.5;
         members.lineweight = 35;
-        members.transparency = 0x02000080;
+        members.seldom.edit().transparency = 0x02000080;
         members.plotStyleKind = EntityMembers::PlotStyle::ByBlock;
         members.shadows = EntityMembers::Shadows::Ignore;
         members.invisible = true;

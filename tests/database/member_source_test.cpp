@@ -23,7 +23,7 @@ class CountingSource : public KdDbMemberSource
         ++m_reads[object.handle()];
         auto& line = static_cast<LineMembers&>(members);
         line.start.x = static_cast<double>(object.source().offset);
-        line.colorName = L"a name on the heap";
+        line.seldom.edit().colorName = L"a name on the heap";
         line.extendedData = database_test::ExtendedData().text(1001, L"APP").number(3).take();
     }
 

@@ -302,7 +302,7 @@ TEST(ObjectReactors, AreNoneUnlessGiven)
 {
     KdDbLine line;
     EXPECT_TRUE(line.reactors().empty());
-    line.edit().reactors = std::make_unique<std::vector<KdDbObjectId>>(1, line.objectId());
+    line.edit().links.edit().reactors = {line.objectId()};
     ASSERT_EQ(line.reactors().size(), 1u);
     EXPECT_EQ(line.reactors()[0], line.objectId());
 }
@@ -315,7 +315,7 @@ TEST(ObjectOutsideADatabase, CanBeChangedWithoutOpening)
     EXPECT_EQ(line.handle(), 0u);
     EXPECT_TRUE(line.ownerId().isNull());
     EXPECT_EQ(line.erase(), eOk);
-    line.edit().linetypeScale = 2.0;
+    line.edit().seldom.edit().linetypeScale = 2.0;
     EXPECT_EQ(line.linetypeScale(), 2.0);
     EXPECT_EQ(line.close(), eNotOpenForRead);
 }

@@ -102,7 +102,8 @@ TEST_F(Constraint, LooksForItsVariableBehindEachDependency)
     change(empty, [](AssocDependencyMembers& members) { members.writes = true; });
     const auto* found = constrain(two, false);
     change(&two, [&](DimensionMembers& members) {
-        members.reactors->insert(members.reactors->begin(), empty->objectId());
+        auto& reactors = members.links.edit().reactors;
+        reactors.insert(reactors.begin(), empty->objectId());
     });
     KdDbDimension_Extension provider;
     EXPECT_EQ(provider.getVariableFromDimConstraint(&two), found);

@@ -130,8 +130,7 @@ KdDbAssocVariable* DimensionTest::constrain(KdDbDimension& constrained, bool dyn
         members.writes = true;
     });
     change(&constrained, [&](DimensionMembers& members) {
-        members.reactors = std::make_unique<std::vector<KdDbObjectId>>();
-        members.reactors->push_back(dependency->objectId());
+        members.links.edit().reactors = {dependency->objectId()};
     });
     KdDbDimension* opened = nullptr;
     EXPECT_EQ(kddbOpenObject(opened, constrained.objectId(), KdDb::kForWrite), eOk);

@@ -112,7 +112,7 @@ TEST_F(ValuesOfDimensions, GiveGeometryOfAllKinds)
 {
     for (const Kind& kind : kKinds)
         change(&dimension(kind.number), [](DimensionMembers& members) {
-            members.extrusion.direction = {0, 0, -2};
+            members.extrusion.setDirection({0, 0, -2});
             members.textPosition = {1, 2, 3};
             members.textRotation = 0.25;
             members.text = L"about <>";
@@ -157,7 +157,7 @@ TEST_F(ValuesOfDimensions, AreAssociativeByTheirExtensionDictionary)
     drawing.addObject(dictionary, dimension(DimensionKind::Aligned).objectId());
     drawing.addObject(association, dictionary->objectId());
     change(&dimension(DimensionKind::Aligned), [&](DimensionMembers& members) {
-        members.extensionDictionary = dictionary->objectId();
+        members.links.edit().extensionDictionary = dictionary->objectId();
     });
     EXPECT_THAT(answerOfAll(L"\tGeneral:Associative").chain, ElementsAre("5005 No"));
     change(dictionary, [&](DictionaryMembers& members) {

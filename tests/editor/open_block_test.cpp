@@ -32,7 +32,7 @@ class OpenBlock : public WorkingDrawing
         opened->close();
         KdDbBlockTableRecord* record = nullptr;
         kddbOpenObject(record, door, KdDb::kForWrite);
-        record->edit().extensionDictionary = dictionary->objectId();
+        record->edit().links.edit().extensionDictionary = dictionary->objectId();
         record->close();
     }
 

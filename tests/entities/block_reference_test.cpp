@@ -18,7 +18,7 @@ TEST_P(BlockReferenceFrame, PlacesTheReferenceInTheWorld)
 {
     KdDbBlockReference reference;
     reference.edit().position = kPointInFrame;
-    reference.edit().extrusion.direction = GetParam().direction;
+    reference.edit().extrusion.setDirection(GetParam().direction);
     EXPECT_THAT(reference.position(), IsNear(GetParam().world));
     EXPECT_THAT(reference.normal(), IsNear(GetParam().normal));
 }

@@ -136,7 +136,7 @@ TEST(CircleMeasures, FollowFromItsRadius)
     KdDbCircle circle;
     circle.edit().center = {1, 2, 3};
     circle.edit().radius = 2;
-    circle.edit().extrusion.thickness = 4;
+    circle.edit().extrusion.setThickness(4);
     EXPECT_THAT(pointAt(circle, kPi / 2), IsNear(KdGePoint3d{1, 4, 3}));
     EXPECT_DOUBLE_EQ(wholeLength(circle), 4 * kPi);
     EXPECT_DOUBLE_EQ(areaOf(circle), 4 * kPi);
@@ -191,7 +191,7 @@ TEST(PointMeasures, AreThePointItself)
 {
     KdDbPoint point;
     point.edit().position = {1, 2, 3};
-    point.edit().extrusion.thickness = 2;
+    point.edit().extrusion.setThickness(2);
     expectBox(point, {1, 2, 3}, {1, 2, 5});
     expectGrips(point, {{1, 2, 3}});
 }

@@ -160,7 +160,7 @@ TEST_P(ArcInFrame, HasItsEndsInTheWorld)
     arc.edit().center = {1, 3, 5}; // the start lies at (2, 3, 5)
     arc.edit().radius = 1;
     arc.edit().endAngle = kPi;
-    arc.edit().extrusion.direction = GetParam().direction;
+    arc.edit().extrusion.setDirection(GetParam().direction);
     EXPECT_THAT(startOf(arc), IsNear(GetParam().world));
     const KdGePoint3d center = arc.center();
     EXPECT_THAT(endOf(arc), IsNear(center + (center - GetParam().world)));

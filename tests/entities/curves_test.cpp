@@ -16,7 +16,7 @@ TEST_P(CurveFrame, PlacesTheCenterOfACircleInTheWorld)
 {
     KdDbCircle circle;
     circle.edit().center = kPointInFrame;
-    circle.edit().extrusion.direction = GetParam().direction;
+    circle.edit().extrusion.setDirection(GetParam().direction);
     EXPECT_THAT(circle.center(), IsNear(GetParam().world));
     EXPECT_THAT(circle.normal(), IsNear(GetParam().normal));
 }
@@ -25,7 +25,7 @@ TEST_P(CurveFrame, PlacesTheCenterOfAnArcInTheWorld)
 {
     KdDbArc arc;
     arc.edit().center = kPointInFrame;
-    arc.edit().extrusion.direction = GetParam().direction;
+    arc.edit().extrusion.setDirection(GetParam().direction);
     EXPECT_THAT(arc.center(), IsNear(GetParam().world));
     EXPECT_THAT(arc.normal(), IsNear(GetParam().normal));
 }
@@ -35,7 +35,7 @@ TEST_P(CurveFrame, LeavesTheEndsOfALineAlone)
     KdDbLine line;
     line.edit().start = kPointInFrame;
     line.edit().end = {-1, -2, -3};
-    line.edit().extrusion.direction = GetParam().direction;
+    line.edit().extrusion.setDirection(GetParam().direction);
     EXPECT_EQ(line.startPoint(), kPointInFrame);
     EXPECT_EQ(line.endPoint(), (KdGePoint3d{-1, -2, -3}));
     EXPECT_THAT(line.normal(), IsNear(GetParam().normal));
@@ -45,7 +45,7 @@ TEST_P(CurveFrame, LeavesThePositionOfAPointAlone)
 {
     KdDbPoint point;
     point.edit().position = kPointInFrame;
-    point.edit().extrusion.direction = GetParam().direction;
+    point.edit().extrusion.setDirection(GetParam().direction);
     EXPECT_EQ(point.position(), kPointInFrame);
     EXPECT_THAT(point.normal(), IsNear(GetParam().normal));
 }
@@ -62,7 +62,7 @@ TEST(Line, BeginsEmptyAtTheOrigin)
 TEST(Line, KeepsItsThickness)
 {
     KdDbLine line;
-    line.edit().extrusion.thickness = -2.5;
+    line.edit().extrusion.setThickness(-2.5);
     EXPECT_EQ(line.thickness(), -2.5);
 }
 
@@ -70,7 +70,7 @@ TEST(Circle, KeepsRadiusAndThickness)
 {
     KdDbCircle circle;
     circle.edit().radius = 7.5;
-    circle.edit().extrusion.thickness = 2.0;
+    circle.edit().extrusion.setThickness(2.0);
     EXPECT_EQ(circle.radius(), 7.5);
     EXPECT_EQ(circle.thickness(), 2.0);
 }
@@ -89,14 +89,14 @@ TEST(Arc, KeepsItsAnglesAsTheDrawingHasThem)
 TEST(Arc, KeepsItsThickness)
 {
     KdDbArc arc;
-    arc.edit().extrusion.thickness = 3.0;
+    arc.edit().extrusion.setThickness(3.0);
     EXPECT_EQ(arc.thickness(), 3.0);
 }
 
 TEST(Point, KeepsThicknessAndTurnOfItsMark)
 {
     KdDbPoint point;
-    point.edit().extrusion.thickness = 1.5;
+    point.edit().extrusion.setThickness(1.5);
     point.edit().ecsRotation = 0.25;
     EXPECT_EQ(point.thickness(), 1.5);
     EXPECT_EQ(point.ecsRotation(), 0.25);

@@ -46,7 +46,7 @@ TEST(RotatedDimension, MeasuresAlongItsDirection)
 TEST(RotatedDimension, CountsItsDirectionInTheFrameOfTheEntity)
 {
     KdDbRotatedDimension dimension;
-    dimension.edit().extrusion.direction = {1, 0, 0}; // x along the world's Y, y along its Z
+    dimension.edit().extrusion.setDirection({1, 0, 0}); // x along the world's Y, y along its Z
     dimension.edit().xLine2Point = {100, 5, 12};
     EXPECT_DOUBLE_EQ(measured(dimension), 5.0);
     dimension.edit().rotation = kPi / 2;
@@ -215,7 +215,7 @@ TEST(Dimension, HasItsTextInTheWorld)
 {
     KdDbRadialDimension dimension;
     dimension.edit().textPosition = {1, 2, 3};
-    dimension.edit().extrusion.direction = {0, 0, -5};
+    dimension.edit().extrusion.setDirection({0, 0, -5});
     EXPECT_EQ(dimension.textPosition(), (KdGePoint3d{-1, 2, -3}));
     EXPECT_EQ(dimension.normal(), (KdGeVector3d{0, 0, -1}));
     EXPECT_TRUE(dimension.isPlanar());
@@ -250,8 +250,7 @@ class DimensionalConstraint : public testing::Test
         dependencyToChange->edit().reads = false;
         dependencyToChange->edit().writes = true;
         const OpenForWrite<KdDbAlignedDimension> dimensionToChange(dimension->objectId());
-        dimensionToChange->edit().reactors =
-            std::make_unique<std::vector<KdDbObjectId>>(1, dependency->objectId());
+        dimensionToChange->edit().links.edit().reactors = {dependency->objectId()};
         const OpenForWrite<KdDbAssocVariable> variableToChange(variable->objectId());
         variableToChange->edit().name = L"d1";
         const OpenForWrite<KdDbAssocNetwork> networkToChange(network->objectId());

@@ -57,7 +57,7 @@ TEST_F(Ellipse, HasAMinorAxisAcrossTheMajorOne)
 {
     EXPECT_EQ(ellipse.majorAxis(), (KdGeVector3d{0, 4, 0}));
     EXPECT_THAT(ellipse.minorAxis(), IsNear(KdGeVector3d{-2, 0, 0}));
-    ellipse.edit().extrusion.direction = {5, 0, 0};
+    ellipse.edit().extrusion.setDirection({5, 0, 0});
     EXPECT_THAT(ellipse.normal(), IsNear(KdGeVector3d::kXAxis));
     EXPECT_THAT(ellipse.minorAxis(), IsNear(KdGeVector3d{0, 0, 2}));
 }

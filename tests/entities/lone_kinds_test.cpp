@@ -23,7 +23,7 @@ TEST_P(FilledFaceInEachFrame, GivesItsCornersInTheWorld)
 {
     KdDbSolid solid;
     solid.edit().points.fill(kPointInFrame);
-    solid.edit().extrusion.direction = GetParam().direction;
+    solid.edit().extrusion.setDirection(GetParam().direction);
     KdGePoint3d point;
     EXPECT_EQ(solid.getPointAt(2, point), eOk);
     EXPECT_THAT(point, IsNear(GetParam().world));
@@ -41,7 +41,7 @@ TEST(FilledFace, KeepsItsCornersInTheStoredOrder)
     KdDbTrace trace;
     const std::array<KdGePoint3d, 4> bowTie{{{0, 0, 1}, {2, 0, 1}, {0, 1, 1}, {2, 1, 1}}};
     trace.edit().points = bowTie;
-    trace.edit().extrusion.thickness = -3;
+    trace.edit().extrusion.setThickness(-3);
     KdArray<KdGePoint3d> grips;
     EXPECT_EQ(trace.getGripPoints(grips), eOk);
     EXPECT_EQ(cells(grips), std::vector(bowTie.begin(), bowTie.end()));

@@ -37,7 +37,7 @@ TEST_P(PolylineFrame, PlacesItsVerticesInTheWorldAtTheElevation)
     KdDbPolyline polyline;
     polyline.edit().addVertex({kPointInFrame.x, kPointInFrame.y});
     polyline.edit().elevation = kPointInFrame.z;
-    polyline.edit().extrusion.direction = GetParam().direction;
+    polyline.edit().extrusion.setDirection(GetParam().direction);
     KdGePoint3d point;
     ASSERT_EQ(polyline.getPointAt(0, point), eOk);
     EXPECT_THAT(point, IsNear(GetParam().world));
@@ -47,7 +47,7 @@ TEST_P(PolylineFrame, GivesItsFlatVerticesAsTheyAreStored)
 {
     KdDbPolyline polyline;
     polyline.edit().addVertex({2.0, 3.0});
-    polyline.edit().extrusion.direction = GetParam().direction;
+    polyline.edit().extrusion.setDirection(GetParam().direction);
     KdGePoint2d point;
     ASSERT_EQ(polyline.getPointAt(0, point), eOk);
     EXPECT_EQ(point, (KdGePoint2d{2.0, 3.0}));

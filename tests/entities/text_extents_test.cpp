@@ -170,7 +170,7 @@ TEST_P(ShapeFrame, PlacesAShapeInTheWorld)
 {
     KdDbShape shape;
     shape.edit().position = kPointInFrame;
-    shape.edit().extrusion.direction = GetParam().direction;
+    shape.edit().extrusion.setDirection(GetParam().direction);
     EXPECT_THAT(shape.position(), IsNear(GetParam().world));
     EXPECT_THAT(shape.normal(), IsNear(GetParam().normal));
 }

@@ -14,7 +14,7 @@ TEST_P(TextFrame, PlacesBothPointsOfATextInTheWorld)
 {
     KdDbText text;
     text.edit().position = kPointInFrame;
-    text.edit().extrusion.direction = GetParam().direction;
+    text.edit().extrusion.setDirection(GetParam().direction);
     EXPECT_THAT(text.position(), IsNear(GetParam().world));
     EXPECT_THAT(text.alignmentPoint(), IsNear(KdGePoint3d()));
     text.edit().alignmentPoint = kPointInFrame;
@@ -50,7 +50,7 @@ TEST(Text, AnswersWhatItsRecordHolds)
     members.rotation = 0.5;
     members.oblique = 0.25;
     members.widthFactor = 0.8;
-    members.extrusion.thickness = 3.0;
+    members.extrusion.setThickness(3.0);
     EXPECT_EQ(text.textString(), L"%%c20");
     EXPECT_EQ(text.textStyle(), style.objectId());
     EXPECT_EQ(text.height(), 2.5);

@@ -234,7 +234,7 @@ TEST(HatchExtents, AreThoseInTheWorld)
     // the x axis of this frame is the world's Y, its y axis is the world's Z
     KdGeExtents3d box;
     const auto hatch = hatchOf({rectangle(1, 2, 3, 5)});
-    hatch->edit().extrusion.direction = {2, 0, 0};
+    hatch->edit().extrusion.setDirection({2, 0, 0});
     hatch->edit().elevation = -4;
     ASSERT_EQ(hatch->getGeomExtents(box), eOk);
     EXPECT_EQ(box.minPoint, (KdGePoint3d{-4, 1, 2}));

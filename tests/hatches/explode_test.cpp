@@ -116,7 +116,7 @@ TEST(ExplodedPattern, HasAllFamiliesOneAfterTheOther)
 TEST(ExplodedPattern, LiesInThePlaneOfTheHatch)
 {
     auto hatch = ruled({rectangle(0, 0.5, 2, 1.5)});
-    hatch->edit().extrusion.direction = {1, 0, 0};
+    hatch->edit().extrusion.setDirection({1, 0, 0});
     hatch->edit().elevation = 5;
     expectLines(*hatch, {{{5, 0, 1}, {5, 2, 1}}});
 }

@@ -141,8 +141,9 @@ TEST_F(LeaderProvider, IsAssociativeByTheEntryOfItsDictionary)
     ASSERT_EQ(kddbOpenObject(opened, extension->objectId(), KdDb::kForWrite), eOk);
     opened->setAt(L"ACAD_DIMASSOC", tied->objectId());
     opened->close();
-    change(tied,
-           [&](LeaderMembers& members) { members.extensionDictionary = extension->objectId(); });
+    change(tied, [&](LeaderMembers& members) {
+        members.links.edit().extensionDictionary = extension->objectId();
+    });
     EXPECT_EQ(ask(provider, tied, L"\tGeneral:Associative").chain.at(0), "5005 Yes");
 }
 

@@ -10,7 +10,7 @@ class FaceProviders : public LoneProviders
     static void fill(FilledFaceMembers& members)
     {
         members.points = {{{1, 2, 9}, {5, 2, 9}, {1, 7, 9}, {6, 8, 9}}};
-        members.extrusion.thickness = 2.5;
+        members.extrusion.setThickness(2.5);
     }
 
     const std::vector<std::string> corners = {"5002 1,2", "5002 5,2", "5002 1,7", "5002 6,8"};
@@ -20,7 +20,7 @@ TEST_F(FaceProviders, TellThicknessAndPositionOfAPoint)
 {
     KdDbPoint point;
     point.edit().position = {1, 2, 3};
-    point.edit().extrusion.thickness = -4.5;
+    point.edit().extrusion.setThickness(-4.5);
     expectProvider<KdDbPoint_Extension>(point,
                                         {{77350, L"\tGeneral:Thickness", false, "5001 -4.5"},
                                          {77351, L"Geometry:Position", false, "5009 1,2,3"}});
@@ -51,7 +51,7 @@ TEST_F(FaceProviders, TakeTheCornersOfASolidIntoTheWorld)
 {
     KdDbSolid solid;
     fill(solid.edit());
-    solid.edit().extrusion.direction = {0, 0, -1};
+    solid.edit().extrusion.setDirection({0, 0, -1});
     KdDbSolid_Extension provider;
     EXPECT_EQ(ask(provider, &solid, L"Geometry:Vertex").chain.front(), "5002 -1,2");
     EXPECT_EQ(ask(provider, &solid, L"Geometry:Elevation").chain.front(), "5001 -9");

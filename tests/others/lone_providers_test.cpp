@@ -219,7 +219,7 @@ TEST_F(LoneProviders, TellTextAndPlaceOfAMarker)
     enter(dictionary->objectId(), L"ACAD_GEOGRAPHICDATA", globe->objectId());
     KdDbBlockTableRecord* model = nullptr;
     ASSERT_EQ(kddbOpenObject(model, drawing.modelSpaceId(), KdDb::kForWrite), eOk);
-    model->edit().extensionDictionary = dictionary->objectId();
+    model->edit().links.edit().extensionDictionary = dictionary->objectId();
     model->close();
     expectProvider<KdDbGeoPositionMarker_Extension>(
         *marker,

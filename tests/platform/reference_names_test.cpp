@@ -33,8 +33,7 @@ class ReferenceNames : public testing::Test
         drawing.addObject(dependency, action->objectId());
         KdDbBlockReference* opened = nullptr;
         EXPECT_EQ(kddbOpenObject(opened, reference->objectId(), KdDb::kForWrite), eOk);
-        opened->edit().reactors =
-            std::make_unique<std::vector<KdDbObjectId>>(1, dependency->objectId());
+        opened->edit().links.edit().reactors = {dependency->objectId()};
         opened->close();
         return reference->objectId();
     }

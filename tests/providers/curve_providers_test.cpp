@@ -55,12 +55,12 @@ CurveProviders::CurveProviders()
 {
     line.edit().start = {1, 2, 3};
     line.edit().end = {4, 6, 15};
-    line.edit().extrusion.thickness = 0.5;
+    line.edit().extrusion.setThickness(0.5);
     arc.edit().center = {10, 20, 5};
     arc.edit().radius = 2;
     arc.edit().startAngle = kPi / 2;
     arc.edit().endAngle = kPi;
-    arc.edit().extrusion.thickness = -1.5;
+    arc.edit().extrusion.setThickness(-1.5);
     circle.edit().center = {7, 8, 9};
     circle.edit().radius = 3;
     circle.edit().extrusion = {{0, 0, -1}, 2.5};
@@ -198,12 +198,12 @@ TEST_F(CurveProviders, ListTheNormalOfAnArcOnlyWhenItLeavesTheZAxis)
 {
     EXPECT_EQ(ownKeys<KdDbArc_Extension>(&arc).size(), 10u);
     for (const KdGeVector3d direction : {KdGeVector3d{0, 0, -1}, {1, 0, 1}, {1e-9, 0, 1}}) {
-        arc.edit().extrusion.direction = direction;
+        arc.edit().extrusion.setDirection(direction);
         const auto keys = ownKeys<KdDbArc_Extension>(&arc);
         EXPECT_EQ(keys.size(), 11u);
         EXPECT_EQ(keys.back(), kNormal);
     }
-    arc.edit().extrusion.direction = {1e-11, 0, 1};
+    arc.edit().extrusion.setDirection({1e-11, 0, 1});
     EXPECT_EQ(ownKeys<KdDbArc_Extension>(&arc).size(), 10u);
 }
 
@@ -214,7 +214,7 @@ TEST_F(CurveProviders, DoNotListTheNormalForAnEntityThatIsNoArc)
 
 TEST_F(CurveProviders, FlagTheNormalOfATiltedArcAsDerived)
 {
-    arc.edit().extrusion.direction = {3, 0, 4};
+    arc.edit().extrusion.setDirection({3, 0, 4});
     KdDbArc_Extension provider;
     EXPECT_TRUE(list(provider, &arc).flags.back());
     EXPECT_THAT(ask(provider, &arc, kNormal).chain, ElementsAre("5009 0.6,0,0.8"));
@@ -248,7 +248,7 @@ TEST_P(LineMeasures, AreTheLengthInSpaceAndTheAngleFromAbove)
     KdDbLine_Extension provider;
     EXPECT_DOUBLE_EQ(number(provider, line, L"Geometry:\tLength"), GetParam().length);
     EXPECT_DOUBLE_EQ(number(provider, line, L"Geometry:Angle"), GetParam().angle);
-    line.edit().extrusion.direction = {0, 0, -1}; // the line's normal plays no part
+    line.edit().extrusion.setDirection({0, 0, -1}); // the line's normal plays no part
     EXPECT_DOUBLE_EQ(number(provider, line, L"Geometry:Angle"), GetParam().angle);
 }
 

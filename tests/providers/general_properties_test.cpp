@@ -45,9 +45,9 @@ class GeneralProperties : public ProviderTest
         change(circle, [this](CircleMembers& members) {
             members.color = 0xC3000001;
             members.linetype = drawing.findOrAddRecord<KdDbLinetypeTable>(L"HIDDEN");
-            members.linetypeScale = 2.5;
+            members.seldom.edit().linetypeScale = 2.5;
             members.lineweight = 25;
-            members.transparency = 0x02000080;
+            members.seldom.edit().transparency = 0x02000080;
             members.extendedData =
                 ExtendedData().text(1001, L"PE_URL").text(1000, L"https://a.example/").take();
         });
@@ -70,7 +70,8 @@ class GeneralProperties : public ProviderTest
     }
     Words transparencyOf(std::uint32_t word)
     {
-        change(circle, [word](CircleMembers& members) { members.transparency = word; });
+        change(circle,
+               [word](CircleMembers& members) { members.seldom.edit().transparency = word; });
         return chain(kTransparency);
     }
     void addPlotStyle(const wchar_t* name)

@@ -72,7 +72,7 @@ TEST_F(BlockScenes, MirroredReferencesMirrorArcs)
         members.scale = {-1, 1, 1};
     });
     const auto* turned = addReference(modelId(), round, [](BlockReferenceMembers& members) {
-        members.extrusion.direction = {0, 0, -1};
+        members.extrusion.setDirection({0, 0, -1});
         members.position = {10, 0, 0}; // in the object frame, whose x axis runs backwards
     });
     const auto scene = build();
@@ -260,7 +260,7 @@ TEST_F(BlockScenes, ItemsStandInDrawOrder)
     drawing.addObject(extension, modelId());
     KdDbBlockTableRecord* model = nullptr;
     ASSERT_EQ(kddbOpenObject(model, modelId(), KdDb::kForWrite), eOk);
-    model->edit().extensionDictionary = extension->objectId();
+    model->edit().links.edit().extensionDictionary = extension->objectId();
     model->close();
     const auto scene = build();
     ASSERT_THAT(scene->items, SizeIs(3));

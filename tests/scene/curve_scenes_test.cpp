@@ -61,7 +61,7 @@ TEST_F(CurveScenes, CirclesCloseAndTilt)
     });
     const auto* tilted = add<KdDbCircle>([](CircleMembers& members) {
         members.radius = 5;
-        members.extrusion.direction = {0.6, 0, 0.8};
+        members.extrusion.setDirection({0.6, 0, 0.8});
     });
     const auto scene = build();
     EXPECT_EQ(stepsOf(*scene, shapesOf(*scene, circle)[0]).back(), 'Z');
@@ -81,7 +81,7 @@ TEST_F(CurveScenes, ArcsRunAgainstTheClockAboutTheirNormal)
     const auto* arc = add<KdDbArc>(quarter);
     const auto* mirrored = add<KdDbArc>([&](ArcMembers& members) {
         quarter(members);
-        members.extrusion.direction = {0, 0, -1};
+        members.extrusion.setDirection({0, 0, -1});
     });
     const auto scene = build();
     EXPECT_THAT(itemOf(*scene, arc)->box, IsBox(0, -1, 1, 0));

@@ -115,7 +115,7 @@ TEST_F(HatchScenes, LoopsWithBulgesAndElevationAreTilted)
     const auto* hatch = add<KdDbHatch>([](HatchMembers& members) {
         members.solid = true;
         members.elevation = 3;
-        members.extrusion.direction = {0, 0, -1};
+        members.extrusion.setDirection({0, 0, -1});
         HatchLoop loop;
         loop.type = HatchLoop::kPolyline;
         loop.vertices = {{{0, 0}, 1.0}, {{2, 0}, 1.0}}; // a circle

@@ -116,7 +116,7 @@ TEST_F(LookScenes, TransparencyIsTheAlphaOfTheColour)
         addLayer(L"GLASS", [](LayerMembers& members) { members.transparency = 0x02000080; });
     line(modelId(), layer, kAciRed);
     auto* own = line(modelId(), layer, kAciRed);
-    change(own, [](LineMembers& members) { members.transparency = 0x02000040; });
+    change(own, [](LineMembers& members) { members.seldom.edit().transparency = 0x02000040; });
     const auto scene = build();
     EXPECT_EQ(lookOf(*scene, scene->shapes[0]).color, 0x80FF0000);
     EXPECT_EQ(lookOf(*scene, scene->shapes[1]).color, 0x40FF0000);
@@ -156,7 +156,7 @@ TEST_F(LookScenes, LinetypesAreScaledByDrawingAndEntity)
         auto* added = add<KdDbLine>([&](LineMembers& members) {
             members.end = {1, 0, 0};
             members.linetype = linetype;
-            members.linetypeScale = 2.0;
+            members.seldom.edit().linetypeScale = 2.0;
         });
         set(added, layer);
     };

@@ -177,7 +177,7 @@ TEST_F(SingleText, HangsUpsideDownFromItsPoint)
 
 TEST_F(SingleText, LiesInThePlaneOfItsExtrusion)
 {
-    text.edit().extrusion.direction = {0, 0, -1}; // seen from behind: x runs to the left
+    text.edit().extrusion.setDirection({0, 0, -1}); // seen from behind: x runs to the left
     const Shown shown = only();
     EXPECT_THAT(shown.start, IsAt(-10, 20));
     EXPECT_THAT(shown.end, IsAt(-10 - width, 20));

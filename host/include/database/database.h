@@ -121,6 +121,7 @@ class KW_EXPORT KdDbDatabase
     void sortHandles() const;
 
     KdDbArena m_arena;
+    std::vector<std::unique_ptr<KdDbArena>> m_moreArenas;
     std::vector<KdDbObject*> m_objects;
     mutable std::vector<KdDbObject*> m_byHandle;
     mutable bool m_handlesAreSorted = true;
@@ -153,6 +154,22 @@ class KW_EXPORT KdDbDatabaseBuilder
     /// Members of `object` as they stand, without reading them from the source: for records that
     /// the reader fills at once.
     ObjectMembers& membersForFilling(KdDbObject& object);
+    /// More storage, which lives as long as the database, for a thread of its own.
+    KdDbArena& addArena();
+    /// Gives an object of the database's arena that has no members yet a record in `arena`, filled
+    /// by `fill`, which answers whether the object may keep it. Several threads may do so at the
+    /// same time with different objects and arenas.
+    template <class Fill>
+    void fill(KdDbObject& object, KdDbArena& arena, Fill fill)
+    {
+        if (object.m_members || !object.m_inArena)
+            return;
+        object.m_members = object.makeMembers(&arena);
+        if (fill(*object.m_members))
+            return;
+        object.m_members->~ObjectMembers();
+        object.m_members = nullptr;
+    }
     /// Hands out handles to objects that have none, above all that are in use, and adds what every
     /// drawing must have and this one lacks: layer "0", the standard linetypes and text style, the
     /// model and a sheet, the dictionary of named objects.

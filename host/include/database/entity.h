@@ -25,17 +25,22 @@ struct KW_EXPORT EntityMembers : ObjectMembers
         Receive = 2,
         Ignore = 3,
     };
+    /// What is the same for nearly all entities.
+    struct Seldom
+    {
+        KdDbObjectId plotStyle;
+        KdString colorName; ///< "BOOK$COLOR", or a plain colour name
+        double linetypeScale = 1.0;
+        std::uint32_t transparency = 0; ///< see `KdCmTransparency::fromWord`
+    };
 
     KdDbObjectId linetype; ///< null: by layer
-    KdDbObjectId plotStyle;
-    KdString colorName; ///< "BOOK$COLOR", or a plain colour name
-    double linetypeScale = 1.0;
+    KdRare<Seldom> seldom;
     std::uint32_t color = 0xC0000000; ///< the word of a `KdCmColor`
-    std::uint32_t transparency = 0;   ///< see `KdCmTransparency::fromWord`
     std::int16_t lineweight = -1;     ///< 1/100 mm; -1 by layer, -2 by block, -3 default
-    PlotStyle plotStyleKind = PlotStyle::ByLayer;
-    bool invisible = false;
-    Shadows shadows = Shadows::CastAndReceive;
+    PlotStyle plotStyleKind : 2 = PlotStyle::ByLayer;
+    Shadows shadows : 2 = Shadows::CastAndReceive;
+    bool invisible : 1 = false;
 };
 
 class KW_EXPORT KdDbEntity : public KdDbObject
@@ -53,12 +58,12 @@ class KW_EXPORT KdDbEntity : public KdDbObject
     KdDbObjectId linetypeId() const { return data().linetype; }
     /// The linetype's name as its table has it; "ByLayer" where the entity names none.
     KdString linetype() const;
-    double linetypeScale() const { return data().linetypeScale; }
+    double linetypeScale() const { return data().seldom->linetypeScale; }
     /// 1/100 mm, or -1 by layer, -2 by block, -3 default.
     int lineWeight() const { return data().lineweight; }
     KdCmTransparency transparency() const
     {
-        return KdCmTransparency::fromWord(data().transparency);
+        return KdCmTransparency::fromWord(data().seldom->transparency);
     }
     /// "ByLayer", "ByBlock", or the key of the style in the plot style dictionary; empty if it is
     /// not there.

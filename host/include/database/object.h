@@ -8,6 +8,7 @@
 
 #include <database/object_id.h>
 #include <runtime/guid.h>
+#include <runtime/kd_rare.h>
 #include <runtime/kd_string.h>
 #include <runtime/rx_class.h>
 
@@ -34,12 +35,17 @@ struct KW_EXPORT ObjectMembers
 {
     virtual ~ObjectMembers();
 
-    KdDbObjectId extensionDictionary;
+    /// What most objects lack.
+    struct Links
+    {
+        KdDbObjectId extensionDictionary;
+        /// Who wants to hear of changes, such as the dependencies of associative objects.
+        std::vector<KdDbObjectId> reactors;
+    };
+
     /// All extended data of the object: each application begins with a 1001 record.
     ResbufChain extendedData;
-    /// Who wants to hear of changes, such as the dependencies of associative objects; null where
-    /// there are none, as with most objects.
-    std::unique_ptr<std::vector<KdDbObjectId>> reactors;
+    KdRare<Links> links;
 };
 
 /// Where an object stands in the drawing file it came from. `length` 0: it did not come from a
@@ -77,14 +83,14 @@ class KW_EXPORT KdDbObject : public KdRxObject
     bool isWriteEnabled() const { return m_writer || !m_database; }
 
     /// Id of the dictionary that extends this object, or the null id.
-    KdDbObjectId extensionDictionary() const { return members().extensionDictionary; }
+    KdDbObjectId extensionDictionary() const { return members().links->extensionDictionary; }
     /// The records of one application's extended data behind its 1001 record, up to the next
     /// application's. The application's name is compared without case; null stands for all
     /// applications, and then the 1001 records are there, too. The chain belongs to the object;
     /// `end` receives the first record that no longer counts. Both are null if there are none.
     const resbuf* extendedData(const wchar_t* application, const resbuf*& end) const;
     /// The objects that want to hear of changes to this one.
-    std::span<const KdDbObjectId> reactors() const;
+    std::span<const KdDbObjectId> reactors() const { return members().links->reactors; }
     /// True if the annotation scale decides the object's size. Here: what its extended data says.
     virtual bool isAnnotative() const;
     /// The class id under which an object model knows the object; see database/class_ids.h. Here,

@@ -19,7 +19,7 @@ class KW_EXPORT KdDbCircle : public KdDbCurve
     /// In WCS.
     KdGePoint3d center() const { return data().extrusion.toWorld(data().center); }
     double radius() const { return data().radius; }
-    double thickness() const { return data().extrusion.thickness; }
+    double thickness() const { return data().extrusion.thickness(); }
     /// In WCS, of length 1.
     KdGeVector3d normal() const { return data().extrusion.normal(); }
 
@@ -52,7 +52,7 @@ class KW_EXPORT KdDbArc : public KdDbCurve
     /// In radians, as the drawing has them; see `ArcMembers`.
     double startAngle() const { return data().startAngle; }
     double endAngle() const { return data().endAngle; }
-    double thickness() const { return data().extrusion.thickness; }
+    double thickness() const { return data().extrusion.thickness(); }
     /// In WCS, of length 1.
     KdGeVector3d normal() const { return data().extrusion.normal(); }
 

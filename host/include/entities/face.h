@@ -45,7 +45,7 @@ class KW_EXPORT KdDbFilledFace : public KdDbEntity
 
     /// A corner in WCS. `eInvalidInput` unless `index` is 0 to 3, `point` untouched.
     KdErrorStatus getPointAt(int index, KdGePoint3d& point) const;
-    double thickness() const { return data().extrusion.thickness; }
+    double thickness() const { return data().extrusion.thickness(); }
     /// In WCS, of length 1.
     KdGeVector3d normal() const { return data().extrusion.normal(); }
 

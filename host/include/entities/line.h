@@ -19,7 +19,7 @@ class KW_EXPORT KdDbLine : public KdDbCurve
     /// Both ends in WCS.
     KdGePoint3d startPoint() const { return data().start; }
     KdGePoint3d endPoint() const { return data().end; }
-    double thickness() const { return data().extrusion.thickness; }
+    double thickness() const { return data().extrusion.thickness(); }
     /// Direction of the thickness in WCS, of length 1.
     KdGeVector3d normal() const { return data().extrusion.normal(); }
 

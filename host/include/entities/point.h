@@ -18,7 +18,7 @@ class KW_EXPORT KdDbPoint : public KdDbEntity
 
     /// In WCS.
     KdGePoint3d position() const { return data().position; }
-    double thickness() const { return data().extrusion.thickness; }
+    double thickness() const { return data().extrusion.thickness(); }
     /// In WCS, of length 1.
     KdGeVector3d normal() const { return data().extrusion.normal(); }
     /// How far the point's mark is turned, in radians about the normal.

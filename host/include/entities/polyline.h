@@ -68,16 +68,16 @@ class KW_EXPORT KdDbPolyline : public KdDbCurve
     void setClosed(bool closed) { edit().closed = closed; }
     void setPlinegen(bool plinegen) { edit().plinegen = plinegen; }
     void setElevation(double elevation) { edit().elevation = elevation; }
-    void setThickness(double thickness) { edit().extrusion.thickness = thickness; }
+    void setThickness(double thickness) { edit().extrusion.setThickness(thickness); }
     /// @param normal  in WCS, of any length but 0
-    void setNormal(const KdGeVector3d& normal) { edit().extrusion.direction = normal; }
+    void setNormal(const KdGeVector3d& normal) { edit().extrusion.setDirection(normal); }
 
     bool isClosed() const override;
     /// True if linetype patterns run on across the vertices.
     bool hasPlinegen() const { return data().plinegen; }
     /// Height of the polyline's plane above the origin, along the normal.
     double elevation() const { return data().elevation; }
-    double thickness() const { return data().extrusion.thickness; }
+    double thickness() const { return data().extrusion.thickness(); }
     /// In WCS, of length 1.
     KdGeVector3d normal() const { return data().extrusion.normal(); }
 

@@ -30,7 +30,7 @@ class KW_EXPORT KdDbShape : public KdDbEntity
     double widthFactor() const { return data().widthFactor; }
     /// Slant in radians, to the right.
     double oblique() const { return data().oblique; }
-    double thickness() const { return data().extrusion.thickness; }
+    double thickness() const { return data().extrusion.thickness(); }
     /// In WCS, of length 1.
     KdGeVector3d normal() const { return data().extrusion.normal(); }
 

@@ -62,7 +62,7 @@ class KW_EXPORT KdDbText : public KdDbEntity
     /// Slant of the letters in radians, to the right.
     double oblique() const { return data().oblique; }
     double widthFactor() const { return data().widthFactor; }
-    double thickness() const { return data().extrusion.thickness; }
+    double thickness() const { return data().extrusion.thickness(); }
     /// In WCS, of length 1.
     KdGeVector3d normal() const { return data().extrusion.normal(); }
     /// A damaged drawing may give numbers beyond the named modes.

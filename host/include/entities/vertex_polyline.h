@@ -51,7 +51,7 @@ class KW_EXPORT KdDb2dPolyline : public KdDbOwnerOfParts<KdDbCurve>
     double defaultEndWidth() const { return data().defaultEndWidth; }
     /// Height of the polyline's plane above the origin, along the normal.
     double elevation() const { return data().elevation; }
-    double thickness() const { return data().extrusion.thickness; }
+    double thickness() const { return data().extrusion.thickness(); }
     /// In WCS, of length 1.
     KdGeVector3d normal() const { return data().extrusion.normal(); }
 

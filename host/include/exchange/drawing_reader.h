@@ -15,6 +15,9 @@ struct ReadOptions
     /// Reads the members of all objects at once and not each on first use. The outcome is the same,
     /// except that the report then knows what is wrong inside entities as well.
     bool readAllMembers = false;
+    /// How many threads read members then; 0: as many as are worth while. The outcome is the same
+    /// with any number.
+    unsigned threads = 0;
     /// The file will go or change, and nobody need know: it is read into memory whole. Otherwise a
     /// large file stays where it is, and the drawing reads from it; see `readDrawing`.
     bool fileWillGo = false;

@@ -17,6 +17,7 @@ class KW_EXPORT KdString
     KdString(std::wstring_view text);
     /// From ASCII; a byte above 127 becomes the character of that number.
     explicit KdString(const char* text);
+    static KdString fromAscii(std::string_view text);
     KdString(const KdString& other) noexcept : m_shared(other.m_shared) { addReference(); }
     KdString(KdString&& other) noexcept : m_shared(other.m_shared) { other.m_shared = nullptr; }
     KdString& operator=(const KdString& other) noexcept;

@@ -14,8 +14,8 @@ std::unique_ptr<KdDbText> textLike(const KdDbAttributeDefinition& definition, co
     members.rotation = definition.rotation();
     members.oblique = definition.oblique();
     members.widthFactor = definition.widthFactor();
-    members.extrusion.direction = definition.normal();
-    members.extrusion.thickness = definition.thickness();
+    members.extrusion.setDirection(definition.normal());
+    members.extrusion.setThickness(definition.thickness());
     members.text = text;
     members.style = definition.textStyle();
     members.horizontalMode = definition.horizontalMode();
