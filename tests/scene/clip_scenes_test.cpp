@@ -49,7 +49,7 @@ class ClipScenes : public SceneTest
             members.entries.push_back({L"SPATIAL", filter->objectId()});
         });
         change(reference, [&](BlockReferenceMembers& members) {
-            members.extensionDictionary = extension->objectId();
+            members.links.edit().extensionDictionary = extension->objectId();
         });
     }
     void cut(KdDbBlockReference* reference, std::vector<KdGePoint2d> boundary)

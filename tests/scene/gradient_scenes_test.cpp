@@ -160,7 +160,7 @@ TEST_F(GradientScenes, UnknownNamesRunStraight)
 TEST_F(GradientScenes, GradientsAreMirroredWithTheirHatch)
 {
     const SceneGradient mirrored = gradient(L"LINEAR", [](HatchMembers& hatch) {
-        hatch.extrusion.direction = {0, 0, -1};
+        hatch.extrusion.setDirection({0, 0, -1});
     });
     EXPECT_THAT(mirrored.placement.map(QPointF(0, 0)), IsPoint(0, 0));
     EXPECT_THAT(mirrored.placement.map(QPointF(1, 0)), IsPoint(-8, 0));

@@ -61,7 +61,7 @@ TEST_F(WideScenes, DashesAreScaledByTheEntity)
 {
     const auto* polyline = addPolyline({3.0, -1.0}, [](PolylineMembers& members) {
         members.points = {{0, 0}, {10, 0}};
-        members.linetypeScale = 2.0;
+        members.seldom.edit().linetypeScale = 2.0;
     });
     const auto scene = build();
     const auto fills = fillsOf(*scene, polyline);
