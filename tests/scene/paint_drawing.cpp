@@ -29,7 +29,7 @@ QImage pictureOf(const std::shared_ptr<const Scene>& scene, int width)
     request.place.center = box.center();
     request.place.unitsPerPixel =
         std::max({box.width() / width, box.height() / height, 1e-12}) * kRoom;
-    request.isDark = true;
+    request.colors = ViewColors::Dark;
     SceneIndex::Models models;
     for (const SceneWindow& window : scene->windows)
         models.push_back(std::make_shared<SceneIndex>(window.model));
