@@ -2,7 +2,7 @@
 
 #include <QMenu>
 #include <QStyle>
-#include <QToolButton>
+#include <QToolBar>
 
 #include <kwdraw/document/settings.h>
 #include <kwdraw/view/contrast.h>
@@ -55,9 +55,9 @@ TEST_F(Themes, AreTyped)
 TEST_F(Themes, AreChosenInTheToolBar)
 {
     QMenu* menu = nullptr;
-    for (const auto* button : window->findChildren<QToolButton*>())
-        if (button->menu() && button->menu()->actions().contains(&action(Command::LightTheme)))
-            menu = button->menu();
+    for (const QAction* each : window->findChild<QToolBar*>("toolBar")->actions())
+        if (each->menu() && each->menu()->actions().contains(&action(Command::LightTheme)))
+            menu = each->menu();
     ASSERT_TRUE(menu);
     menu->popup({});
     QTest::mouseClick(menu, Qt::LeftButton, {},
