@@ -513,10 +513,6 @@
         <translation>Befehlszeile</translation>
     </message>
     <message>
-        <source>Open &amp;Recent</source>
-        <translation>&amp;Zuletzt geöffnet</translation>
-    </message>
-    <message>
         <source>Commands</source>
         <translation>Befehle</translation>
     </message>
@@ -646,6 +642,10 @@ Zeigt Zeichnungen und wählt ihre Objekte nach Eigenschaften aus.</translation>
     <message>
         <source>R&amp;ecent Filters</source>
         <translation>Zule&amp;tzt verwendete Filter</translation>
+    </message>
+    <message>
+        <source>Open Rece&amp;nt</source>
+        <translation>&amp;Zuletzt geöffnet</translation>
     </message>
 </context>
 <context>

@@ -74,9 +74,9 @@ TEST_F(Help, IsOneWindowHoweverOftenItIsAskedFor)
 TEST_F(Help, GoesWhereItsContentsSay)
 {
     help();
-    clickRow("Exporting");
-    EXPECT_EQ(page().place(), "kwdraw.md#exporting");
-    EXPECT_EQ(top(), "Exporting");
+    clickRow("Moving about");
+    EXPECT_EQ(page().place(), "kwdraw.md#moving-about");
+    EXPECT_EQ(top(), "Moving about");
     clickRow("Quick Select");
     EXPECT_EQ(page().place(), "quick_select.md");
     EXPECT_EQ(top(), "Quick Select");

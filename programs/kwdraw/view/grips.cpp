@@ -43,7 +43,8 @@ void paintGrip(QPainter& painter, QPointF pixel, const QColor& color, const QCol
                double pixelRatio)
 {
     const double half = kGripReach * pixelRatio;
-    const QRectF square(pixel.x() - half, pixel.y() - half, 2.0 * half, 2.0 * half);
+    const QPointF corner = (pixel - QPointF(half, half)).toPoint(); // so that edges are sharp
+    const QRectF square(corner, QSizeF(2.0 * half, 2.0 * half));
     const QRectF inside = square.adjusted(pixelRatio, pixelRatio, -pixelRatio, -pixelRatio);
     painter.fillRect(square, edge);
     painter.fillRect(inside, color);

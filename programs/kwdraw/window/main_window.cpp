@@ -191,7 +191,7 @@ void MainWindow::makeMenus()
             parent.addMenu(&menu);
         menu.addAction(m_commands.action(row.command));
         if (row.command == Command::Open)
-            m_recentMenu = menu.addMenu(tr("Open &Recent"));
+            m_recentMenu = menu.addMenu(tr("Open Rece&nt"));
         if (row.command == Command::RunLast)
             m_filterMenu = menu.addMenu(tr("R&ecent Filters"));
     }
