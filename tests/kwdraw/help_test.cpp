@@ -242,7 +242,7 @@ TEST_P(HelpPages, HaveTheSameHeadingsInNumber)
 }
 
 INSTANTIATE_TEST_SUITE_P(Languages, HelpPages, testing::Values("en", "de"),
-                         [](const auto& info) { return std::string(info.param); });
+                         [](const auto& language) { return std::string(language.param); });
 
 TEST(HelpText, IsEnglishWhereThereIsNoOther)
 {

@@ -76,7 +76,8 @@ CubicTurns turnsOf(const Controls& c)
         if (t > 0.0 && t < 1.0)
             turns.at[turns.count++] = t;
     }
-    std::sort(turns.at.begin(), turns.at.begin() + turns.count);
+    if (turns.count == 2 && turns.at[1] < turns.at[0])
+        std::swap(turns.at[0], turns.at[1]);
     return turns;
 }
 
