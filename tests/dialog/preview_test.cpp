@@ -121,7 +121,7 @@ TEST_F(DialogPreviewTest, IsToldOfEachControl)
         EXPECT_TRUE(isTold());
         person.chooseProperty("Q");
         EXPECT_TRUE(isTold());
-        person.chooseValue("a");
+        person.chooseValue("b");
         EXPECT_TRUE(isTold());
         person.chooseProperty("P");
         EXPECT_TRUE(isTold());
