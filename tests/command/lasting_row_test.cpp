@@ -33,8 +33,9 @@ class LastingRows : public CommandTest
         auto* entity = static_cast<KdDbEntity*>(rxClass.create());
         KdDbBlockTableRecord* space = nullptr;
         EXPECT_EQ(kddbOpenObject(space, model(), KdDb::kForWrite), eOk);
-        if (entity)
+        if (entity) {
             EXPECT_EQ(space->appendEntity(entity), eOk);
+        }
         space->close();
         return entity;
     }
