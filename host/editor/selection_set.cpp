@@ -7,11 +7,8 @@ bool SelectionSet::add(KdDbObjectId id)
     const KdDbDatabase* database = id.database();
     if (!database || (m_database && m_database != database))
         return false;
-    m_cells.push_back(id);
-    if (!enterLastCell()) {
-        m_cells.pop_back();
+    if (!enter(id))
         return true;
-    }
     m_database = database;
     if (!m_removed.empty())
         m_removed.push_back(false);
@@ -21,22 +18,25 @@ bool SelectionSet::add(KdDbObjectId id)
     return true;
 }
 
-/// False if its id is a member already.
-bool SelectionSet::enterLastCell()
+/// Puts the id behind all others. False if it is a member already.
+bool SelectionSet::enter(KdDbObjectId id)
 {
-    const KdDbObjectId id = m_cells.back();
-    if (m_ascends && m_runs.append(id, m_cells.size() - 1))
+    if (m_ascends && m_runs.append(id, m_cells.size())) {
+        m_cells.push_back(id);
         return true;
+    }
     if (m_ascends) {
-        if (find(id))
+        if (contains(id))
             return false;
-        m_cells.pop_back();
         dropRemovedCells();
         m_ascends = false;
         indexAll();
-        m_cells.push_back(id);
     }
-    return m_index.insert(m_cells, m_cells.size() - 1);
+    m_cells.push_back(id);
+    if (m_index.insert(m_cells, m_cells.size() - 1))
+        return true;
+    m_cells.pop_back();
+    return false;
 }
 
 bool SelectionSet::remove(KdDbObjectId id)

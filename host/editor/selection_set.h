@@ -41,7 +41,7 @@ class SelectionSet
   private:
     bool isLive(std::size_t place) const { return m_removed.empty() || !m_removed[place]; }
     std::optional<std::size_t> find(KdDbObjectId id) const;
-    bool enterLastCell();
+    bool enter(KdDbObjectId id);
     void dropRemovedCells();
     void indexAll();
 

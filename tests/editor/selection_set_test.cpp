@@ -53,6 +53,23 @@ TEST_F(SelectionSetOfLines, KeepsTheOrderOfAdding)
     EXPECT_THAT(byVisit(set), ElementsAre(lines[2], lines[0], lines[1]));
 }
 
+TEST_F(SelectionSetOfLines, TakesMembersInAnyOrderOfMemory)
+{
+    Ids order = addLines(6);
+    std::ranges::sort(order);
+    do {
+        SelectionSet added;
+        for (const KdDbObjectId id : order)
+            added.add(id);
+        ASSERT_EQ(byVisit(added), order);
+        for (const KdDbObjectId id : order) {
+            ASSERT_TRUE(added.contains(id));
+            added.add(id);
+        }
+        ASSERT_EQ(byNumber(added), order);
+    } while (std::ranges::next_permutation(order).found);
+}
+
 TEST_F(SelectionSetOfLines, LeavesAMemberAddedAgainInItsPlace)
 {
     const Ids lines = addLines(2);
