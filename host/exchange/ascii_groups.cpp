@@ -1,43 +1,6 @@
 #include "ascii_groups.h"
 
 namespace dxf {
-namespace {
-
-constexpr std::size_t placeOf(const char (&characters)[3])
-{
-    std::size_t place = 0;
-    for (int i = 2; i >= 0; --i)
-        place = place << 5 | (static_cast<unsigned char>(characters[i]) & 0x1Fu);
-    return place;
-}
-
-/// Enters the number at all places that it may have among three characters.
-constexpr void enter(ShortCodes& codes, int number, int digits)
-{
-    for (int first = 0; first + digits <= 3; ++first) {
-        char characters[3] = {' ', ' ', ' '};
-        int rest = number;
-        for (int i = first + digits - 1; i >= first; --i, rest /= 10)
-            characters[i] = static_cast<char>('0' + rest % 10);
-        codes[placeOf(characters)] = static_cast<std::int16_t>(number);
-    }
-}
-
-constexpr ShortCodes makeShortCodes()
-{
-    ShortCodes codes;
-    codes.fill(-1);
-    for (int number = 0; number < 1000; ++number) {
-        for (int digits = number < 10 ? 1 : number < 100 ? 2 : 3; digits <= 3; ++digits)
-            enter(codes, number, digits);
-    }
-    return codes;
-}
-
-} // namespace
-
-constexpr ShortCodes kShortCodes = makeShortCodes();
-
 bool AsciiGroups::nextOfAnyForm(Group& group)
 {
     std::string_view line;

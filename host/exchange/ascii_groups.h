@@ -1,9 +1,10 @@
 // Reads groups from the text form: a line with the code, a line with the value.
 #pragma once
 
-#include <array>
+#include <cstddef>
+#include <cstdint>
 #include <cstring>
-#include <iterator>
+#include <string_view>
 
 #include "findings.h"
 #include "group.h"
@@ -11,32 +12,24 @@
 
 namespace dxf {
 
-/// Codes of one to three digits, with blanks before or behind them up to three characters, by the
-/// lower five bits of each character; -1 for what is none.
-using ShortCodes = std::array<std::int16_t, 1 << 15>;
-extern const ShortCodes kShortCodes;
-
-/// The code in a line of one to three characters, or -1. Four bytes must be readable.
+/// The code in a line of up to three characters, which are digits with blanks before them; -1 for
+/// all others. Four bytes must be readable.
 inline int shortCode(const char* line, std::size_t size)
 {
-    constexpr std::uint32_t kCharacters[] = {0, 0xFFu, 0xFFFFu, 0xFFFFFFu};
-    constexpr std::uint32_t kUpperBits = 0x202020u; // of blanks and of digits
-    if (size >= std::size(kCharacters))
+    if (size - 1 >= 3)
         return -1;
     std::uint32_t text;
     std::memcpy(&text, line, sizeof text);
-    const std::uint32_t used = kCharacters[size];
-    if (((text ^ kUpperBits) & used & 0xE0E0E0u) != 0)
+    // Three characters, the first one lowest: blanks take the place of those that are missing.
+    const auto missing = static_cast<unsigned>(8 * (3 - size));
+    text = (text << missing & 0xFFFFFFu) | 0x202020u >> (24 - missing);
+    const std::uint32_t digits = text & 0x0F0F0Fu; // of a blank 0
+    const std::uint32_t blanks = (text ^ 0x303030u) >> 4 & 0x0F0F0Fu;
+    const std::uint32_t wrong = ((digits + 0x060606u) & 0x101010u) | (blanks & ~0x000101u) |
+                                (blanks >> 8 & ~blanks) | (digits & blanks * 0xFu);
+    if (wrong != 0)
         return -1;
-    text &= used; // to the table, characters that are missing are as blanks
-    return kShortCodes[(text & 0x1Fu) | (text >> 3 & 0x3E0u) | (text >> 6 & 0x7C00u)];
-}
-
-/// The same for a line that may still have the first half of its end, CR LF.
-inline int shortCodeOfLine(const char* line, std::size_t size)
-{
-    const int code = shortCode(line, size);
-    return code < 0 && size > 0 && line[size - 1] == '\r' ? shortCode(line, size - 1) : code;
+    return static_cast<int>((digits & 0xFFu) * 100 + (digits >> 8 & 0xFFu) * 10 + (digits >> 16));
 }
 
 class AsciiGroups
@@ -52,24 +45,23 @@ class AsciiGroups
     /// is none is left out, which finds the way back after a text with a line break in it.
     bool next(Group& group)
     {
-        LinePair lines;
-        if (!m_lines.peekPair(lines))
-            return nextOfAnyForm(group);
-        const int code = shortCodeOfLine(lines.first.data(), lines.first.size());
-        if (code < 0 || code == kComment)
-            return nextOfAnyForm(group);
-        group.code = code;
-        group.offset = m_lines.offset();
-        group.text = lines.second;
-        m_lines.takePair(lines);
-        return true;
+        LineSplitter lines = m_lines; // one of our own can be kept in registers
+        std::string_view line;
+        group.offset = lines.offset();
+        if (lines.next(line)) {
+            group.code = shortCode(line.data(), line.size());
+            if (group.code >= 0 && group.code != kComment && lines.next(group.text)) {
+                m_lines = lines;
+                return true;
+            }
+        }
+        return nextOfAnyForm(group);
     }
     /// The next group 0, leaving out all others; false at the end.
     bool nextRecord(Group& group)
     {
         do {
-            m_lines.passPairs(
-                [](const char* line, std::size_t size) { return shortCodeOfLine(line, size) > 0; });
+            m_lines.passGroups();
             if (!next(group))
                 return false;
         } while (group.code != 0);

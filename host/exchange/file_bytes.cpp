@@ -12,7 +12,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include "line_splitter.h"
+#include "byte_scan.h"
 
 namespace dxf {
 namespace {

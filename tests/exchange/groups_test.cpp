@@ -1,6 +1,8 @@
 #include <cmath>
 #include <cstdint>
 #include <cstdlib>
+#include <iterator>
+#include <random>
 #include <string>
 #include <vector>
 
@@ -134,6 +136,79 @@ INSTANTIATE_TEST_SUITE_P(LineEnds, AsciiRecordsEndedBy, testing::Values("\n", "\
                              const std::string end = given.param;
                              return end == "\n" ? "LF" : end == "\r" ? "CR" : "CRLF";
                          });
+
+/// Where the records of a text begin, and how many lines are no code.
+struct Records
+{
+    std::vector<std::uint64_t> places;
+    std::size_t findings = 0;
+    bool operator==(const Records&) const = default;
+};
+void PrintTo(const Records& records, std::ostream* out)
+{
+    *out << testing::PrintToString(records.places) << ", findings: " << records.findings;
+}
+
+Records recordsOf(const std::string& text, bool (AsciiGroups::*step)(Group&))
+{
+    const FileBytes bytes = FileBytes::copyOf(text);
+    Findings findings;
+    AsciiGroups groups(bytes.data(), 0, bytes.size(), &findings);
+    Records records;
+    Group group;
+    while ((groups.*step)(group)) {
+        if (group.code == 0)
+            records.places.push_back(group.offset);
+    }
+    records.findings = findings.total();
+    return records;
+}
+
+/// A text of lines taken at random from those that codes and values can be.
+std::string randomGroups(std::mt19937& random, const std::string& end)
+{
+    static const std::string kCodes[] = {"0",      "  0",
+                                         "0  ",    "00",
+                                         "\t0",    " 10",
+                                         "40",     "330",
+                                         "100",    "999",
+                                         "005",    "1071",
+                                         "  1000", "12345",
+                                         "90000",  "-5",
+                                         "",       "x",
+                                         "1 0",    "100 ",
+                                         "10\r",   std::string(70, ' ') + "0"};
+    static const std::string kValues[] = {"",
+                                          "0",
+                                          "  0",
+                                          "100",
+                                          "1.5",
+                                          "LINE",
+                                          "a\rb",
+                                          "7\r",
+                                          std::string(61, 'v'),
+                                          std::string(200, '0')};
+    const auto pick = [&random](std::size_t count) { return random() % count; };
+    std::string text;
+    const std::size_t groups = pick(60);
+    for (std::size_t i = 0; i < groups; ++i) {
+        // Mostly plain codes, or none would be passed together.
+        text += kCodes[pick(4) == 0 ? pick(std::size(kCodes)) : 5 + pick(4)] + end;
+        text += kValues[pick(std::size(kValues))] + end;
+    }
+    return text.substr(0, text.size() - pick(3));
+}
+
+TEST(AsciiGroups, FindTheSameRecordsWhetherGroupsArePassedTogetherOrOneByOne)
+{
+    std::mt19937 random(20);
+    for (int i = 0; i < 20000; ++i) {
+        const std::string end = i % 5 == 0 ? "\r" : i % 2 == 0 ? "\n" : "\r\n";
+        const std::string text = randomGroups(random, end);
+        ASSERT_EQ(recordsOf(text, &AsciiGroups::nextRecord), recordsOf(text, &AsciiGroups::next))
+            << testing::PrintToString(text);
+    }
+}
 
 struct BinaryCase
 {
