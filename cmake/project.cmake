@@ -97,6 +97,9 @@ function(project_test folder)
   target_link_libraries(${target} PRIVATE
     ${target}_objects ${ARG_DEPS} test_support GTest::gmock GTest::gtest_main)
   project_leftovers(${target} ${ARG_LIBRARIES} ${ARG_DEPS})
+  if(CMAKE_CXX_FLAGS_DEBUG MATCHES "--coverage")
+    target_sources(${target} PRIVATE ${PROJECT_SOURCE_DIR}/tests/support/dump_coverage.cpp)
+  endif()
   target_precompile_headers(${target} PRIVATE ${PROJECT_SOURCE_DIR}/cmake/precompiled_test.h)
   # Tests themselves need no speed, and from -O2 on GCC 12 warns of string code that is right.
   target_compile_options(${target} PRIVATE $<$<CONFIG:Release>:-O1>)

@@ -2,7 +2,8 @@
 
 A line or a branch counts as run if any object that holds it ran it, as several test programs and
 libraries hold the same code. Branches that the compiler adds for exceptions do not count, nor do asserts,
-which only fail where we are wrong ourselves."""
+which only fail where we are wrong ourselves, nor lines of a closing brace alone, whose code is only run on
+the way out of an exception."""
 
 import collections
 import json
@@ -18,6 +19,11 @@ def reports(data_file):
     done = subprocess.run(["gcov", "--json-format", "--stdout", "--branch-probabilities", str(data_file)],
                           cwd=data_file.parent, capture_output=True, check=False)
     return [json.loads(line) for line in done.stdout.splitlines() if line.startswith(b"{")]
+
+
+def counts(text):
+    """Whether a line of this text is one that a test can be expected to run."""
+    return "assert(" not in text and text.strip() not in ("}", "};")
 
 
 class Coverage:
@@ -46,25 +52,29 @@ class Coverage:
             before = self.branches[name].get(place, [0] * len(counts))
             self.branches[name][place] = [a + b for a, b in zip(before, counts)]
 
-    def uncovered(self, name):
-        """Runs of lines that no test ran."""
+    def counted(self, name):
+        """The lines that count, and the text of all."""
         texts = (self.root / name).read_text().splitlines()
-        missed = sorted(n for n, count in self.lines[name].items()
-                        if count == 0 and n <= len(texts) and "assert(" not in texts[n - 1])
-        return missed, texts
+        return [n for n in sorted(self.lines[name]) if n <= len(texts) and counts(texts[n - 1])], texts
+
+    def uncovered(self, name):
+        """The lines that no test ran, and the text of all."""
+        lines, texts = self.counted(name)
+        return [n for n in lines if self.lines[name][n] == 0], texts
 
     def rows(self):
         folders = collections.defaultdict(lambda: [0, 0, 0, 0])
-        for name, lines in self.lines.items():
-            missed, texts = self.uncovered(name)
+        for name in self.lines:
+            lines, texts = self.counted(name)
+            missed, _ = self.uncovered(name)
             row = folders[str(Path(name).parent)]
             row[0] += len(lines) - len(missed)
             row[1] += len(lines)
-            for (number, _, _), counts in self.branches[name].items():
-                if number <= len(texts) and "assert(" in texts[number - 1]:
+            for (number, _, _), counts_of_line in self.branches[name].items():
+                if number > len(texts) or not counts(texts[number - 1]):
                     continue
-                row[2] += sum(count > 0 for count in counts)
-                row[3] += len(counts)
+                row[2] += sum(count > 0 for count in counts_of_line)
+                row[3] += len(counts_of_line)
         return dict(sorted(folders.items()))
 
 

@@ -4,9 +4,11 @@
 #include <csignal>
 #include <functional>
 #include <set>
+#include <string>
 #include <thread>
 
 #include <sys/file.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 
 #include <fcntl.h>
@@ -31,6 +33,14 @@ class SettingsFiles : public testing::Test
         SettingsFile settings(path);
         EXPECT_EQ(settings.load(), SettingsStatus::Good);
         return settings;
+    }
+
+    static std::set<std::string> namesIn(const fs::path& place)
+    {
+        std::set<std::string> names;
+        for (const auto& entry : fs::directory_iterator(place))
+            names.insert(entry.path().filename());
+        return names;
     }
 
     Folder folder;
@@ -275,6 +285,60 @@ TEST_F(SettingsFiles, TellWhenTheyCanNotBeWrittenAndKeepTheChanges)
     fs::remove(folder / "deep");
     EXPECT_EQ(settings.save(), SettingsStatus::Good);
     EXPECT_EQ(loaded().getInteger(L"a"), 1);
+}
+
+TEST_F(SettingsFiles, StayAsTheyWereWhenTheDiskIsFull)
+{
+    SettingsFile settings(path);
+    settings.set(L"a", 1);
+    ASSERT_EQ(settings.save(), SettingsStatus::Good);
+    const std::string before = contentOf(path);
+    const pid_t other = inOtherProcess([&] {
+        signal(SIGXFSZ, SIG_IGN);
+        const rlimit room{10, 10};
+        setrlimit(RLIMIT_FSIZE, &room);
+        settings.set(L"b", 2);
+        return settings.save() == SettingsStatus::Unwritable && settings.hasChanges() ? 0 : 1;
+    });
+    EXPECT_EQ(endOf(other), 0);
+    EXPECT_EQ(contentOf(path), before);
+    EXPECT_THAT(namesIn(path.parent_path()), ElementsAre("settings.conf", "settings.conf.lock"));
+}
+
+TEST_F(SettingsFiles, ThatAreBrokenStayWhereTheyCanNotBePutAside)
+{
+    path = folder / "settings";
+    write(path, "nonsense");
+    fs::create_directories(folder / "settings.bad/full");
+    SettingsFile settings(path);
+    EXPECT_EQ(settings.load(), SettingsStatus::Unwritable);
+    settings.set(L"a", 1);
+    EXPECT_EQ(settings.save(), SettingsStatus::Unwritable);
+    EXPECT_TRUE(settings.hasChanges());
+    EXPECT_EQ(contentOf(path), "nonsense");
+}
+
+TEST_F(SettingsFiles, AreNotWrittenWithoutTheirLock)
+{
+    path = folder / "settings";
+    fs::create_directory(folder / "settings.lock");
+    SettingsFile settings(path);
+    settings.set(L"a", 1);
+    EXPECT_EQ(settings.save(), SettingsStatus::Unwritable);
+    EXPECT_FALSE(fs::exists(path));
+}
+
+TEST_F(SettingsFiles, TellAtLastThatAnotherWriterDoesNotComeToAnEnd)
+{
+    path = folder / "settings";
+    const int lock = open((folder / "settings.lock").c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0600);
+    ASSERT_EQ(flock(lock, LOCK_EX), 0);
+    SettingsFile settings(path);
+    settings.set(L"a", 1);
+    EXPECT_EQ(settings.save(), SettingsStatus::Busy);
+    EXPECT_FALSE(fs::exists(path));
+    close(lock);
+    EXPECT_EQ(settings.save(), SettingsStatus::Good) << "the change was kept";
 }
 
 TEST_F(SettingsFiles, ReplaceTheFileBehindALinkAndNotTheLink)

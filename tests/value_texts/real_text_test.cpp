@@ -154,12 +154,15 @@ constexpr Print kArchitectural[] = {
     {"areaOfFeetAndInches", 300.0, 4, 4, 1, 0, 0, L"2'-12\""},
     {"areaBelowAFoot", 100.5, 4, 4, 1, 0, 0, L"100 1/2\""},
     {"areaFillsFoot", 143.999, 4, 4, 1, 0, 0, L"1'"},
+    {"areaFillsInchBelowTwelve", 10.999, 4, 0, 1, 0, 0, L"11\""},
+    {"areaFillsInchFromTwelveOnAndWithItAFoot", 20.999, 4, 0, 1, 0, 0, L"1'"},
 };
 
 constexpr Print kDimensions[] = {
     {"raisedDecimals", 12.5, 2, 2, 2, 0, 0, L"12.{\\A0;\\H0.5x;\\S5^ ;}"},
     {"noDecimalsLeft", 12.0, 2, 2, 2, 0, 0, L"12."},
     {"nothingRaisedWithoutPrecision", 12.0, 2, 0, 2, 0, 0, L"12"},
+    {"nothingRaisedWithoutDot", 12.0, 2, 2, 2, 8, 0, L"12"},
     {"toleranceStaysInLine", 12.5, 2, 2, 2, kDimalttz, 0, L"12.50"},
     {"otherToleranceStaysInLine", 12.5, 2, 2, 2, kDimtzin, 0, L"12.50"},
     {"alternateIsRaised", 12.5, 2, 2, 2, kDimaltz, 0, L"12.{\\A0;\\H0.5x;\\S5^ ;}"},
@@ -278,6 +281,13 @@ TEST(ConvertStringWithDimzinText, OfBareZeroStays)
     std::array<wchar_t, 16> buffer;
     ConvertStringWithDimzin(0.0, 0, RealKind::Plain, 12, buffer.data(), 16);
     EXPECT_STREQ(L"0", buffer.data());
+}
+
+TEST(ConvertStringWithDimzinText, OfAWholeNumberKeepsItsZeros)
+{
+    std::array<wchar_t, 16> buffer;
+    ConvertStringWithDimzin(100.0, 0, RealKind::Plain, 12, buffer.data(), 16);
+    EXPECT_STREQ(L"100", buffer.data());
 }
 
 TEST(ConvertStringWithDimzinText, MayVanishForAValueThatOnlyRoundsToZero)

@@ -43,6 +43,8 @@ constexpr Trim kTrims[] = {
     {"blanksAloneInMiddleMode", L"   ", L"m", L""},
     {"empty", L"", L"be", L""},
     {"tabAlone", L"\t", L"be", L""},
+    {"nothingLeftForTheMiddle", L"\t", L"bm", L""},
+    {"nothingLeftForTheEnd", L" \t ", L"be", L""},
 };
 // clang-format on
 

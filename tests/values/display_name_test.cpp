@@ -195,6 +195,15 @@ TEST_F(DisplayName, IsEmptyWhereTheObjectModelHasNoEntity)
     EXPECT_TRUE(GetEntityDisplayName(KdDbObjectId::kNull).empty());
 }
 
+TEST_F(DisplayName, IsEmptyForAnEntityWithoutAClass)
+{
+    const ToyEntity entity(nullptr);
+    EXPECT_TRUE(GetLocalNameOfKdDbEntityEx(&entity).empty());
+    DisplayNames names;
+    EXPECT_TRUE(names.of(entity).empty());
+    EXPECT_EQ(names.ofClass(nullptr), nullptr);
+}
+
 TEST_F(DisplayName, IsEmptyForAnErasedEntity)
 {
     KdDbBlockReference* reference = add<KdDbBlockReference>();

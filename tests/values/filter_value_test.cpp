@@ -328,4 +328,28 @@ TEST_F(FilterValues, OfKindsWithoutValuesAreRefused)
     }
 }
 
+TEST_F(FilterValues, ThatCanNotBeReadCountAsOneOrAsFalse)
+{
+    for (const int kind :
+         {ResBuf::kReal, ResBuf::kLinetypeScale, ResBuf::kPoint2d, ResBuf::kPoint3d})
+        EXPECT_EQ(fallbackText(kind), KdString(L"1")) << kind;
+    EXPECT_EQ(fallbackText(ResBuf::kAngle), KdString(L"1r")) << "a radian in any unit";
+    EXPECT_EQ(fallbackText(ResBuf::kBool), KdString(L"false"));
+    for (const int kind : {ResBuf::kInt8, ResBuf::kInt16, ResBuf::kInt32, ResBuf::kString,
+                           ResBuf::kColor, ResBuf::kNone})
+        EXPECT_EQ(fallbackText(kind), std::nullopt) << kind;
+}
+
+TEST_F(FilterValues, SayInTheirFallbackWhatIsComparedInTheirPlace)
+{
+    for (const int kind : {ResBuf::kReal, ResBuf::kLinetypeScale, ResBuf::kAngle}) {
+        const Read unread(kind, L"no number");
+        ASSERT_EQ(unread.outcome(), FilterText::Unreadable);
+        const KdString fallback = fallbackText(kind).value_or(KdString());
+        EXPECT_EQ(Read(kind, fallback.kwszPtr()).record().getDouble(),
+                  unread.record().getDouble())
+            << kind;
+    }
+}
+
 } // namespace

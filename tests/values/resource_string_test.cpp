@@ -1,7 +1,10 @@
 #include <values/resource_string.h>
 
+#include <cstdlib>
 #include <cwchar>
 #include <string>
+
+#include <sys/resource.h>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -231,6 +234,31 @@ TEST(GetOpmStr, DoesNotDependOnTheCurrentLibrary)
 {
     const CurrentResources other(kOtherTexts);
     EXPECT_EQ(GetOPMStr(51064), L"Circle");
+}
+
+/// The name of a type while no more files can be opened, and once they can be again.
+std::wstring nameBeforeAndAfterShortage()
+{
+    rlimit files{};
+    getrlimit(RLIMIT_NOFILE, &files);
+    const rlimit none{0, files.rlim_max};
+    setrlimit(RLIMIT_NOFILE, &none);
+    const std::wstring before = GetOPMStr(51064);
+    setrlimit(RLIMIT_NOFILE, &files);
+    return before + L'|' + GetOPMStr(51064);
+}
+
+// A library that was found stays, so this runs in a process of its own.
+TEST(GetOpmStrDeathTest, IsEmptyInSilenceUntilItsLibraryCanBeLoaded)
+{
+    testing::GTEST_FLAG(death_test_style) = "threadsafe";
+    EXPECT_EXIT(
+        {
+            CollectedMessages messages;
+            const bool isRight = nameBeforeAndAfterShortage() == L"|Circle";
+            std::exit(isRight && messages.texts.empty() ? 0 : 1);
+        },
+        testing::ExitedWithCode(0), "");
 }
 
 } // namespace

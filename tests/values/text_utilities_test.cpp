@@ -63,6 +63,15 @@ TEST_P(IcTrim, RemovesWhatTheLettersSay)
     EXPECT_EQ(trimmed(GetParam().text, GetParam().modes), GetParam().expected);
 }
 
+TEST(IcTrimOfNull, IsAMistakeOfTheCallerAndChangesNothing)
+{
+    wchar_t modes[] = L"b";
+    wchar_t text[] = L" a";
+    EXPECT_DEBUG_DEATH(ic_trim(nullptr, modes), "text && modes");
+    EXPECT_DEBUG_DEATH(ic_trim(text, nullptr), "text && modes");
+    EXPECT_STREQ(text, L" a");
+}
+
 TEST(IcGetext, GivesTheExtensionWithItsDot)
 {
     EXPECT_EQ(extensionOf(L"a.dwg"), L".dwg");
