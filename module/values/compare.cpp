@@ -27,6 +27,13 @@ bool refuseOperator()
     return false;
 }
 
+/// Nor here: whoever asks for a point asks for one of its coordinates.
+bool refuseAxis()
+{
+    assert(false && "a point is compared along an axis");
+    return false;
+}
+
 bool compareReals(const ResBuf& value, const ResBuf& filter, Operators how)
 {
     const double tolerance = CompareDynamicEpsilon(kDefaultTolerance);
@@ -196,9 +203,8 @@ bool pointSettles(double v, double f, Operators how)
 /// One point that satisfies the test is enough, but "not equal" asks it of every point.
 bool comparePoints(const ResBuf& value, const ResBuf& filter, Operators how, Coordinate coordinate)
 {
-    assert(coordinate && "a point is compared along an axis");
     if (!coordinate)
-        return false;
+        return refuseAxis();
     for (const ResBuf* point = &value; point; point = point->next())
         if (pointSettles(coordinate(*point), coordinate(filter), how))
             return how != Operators::NotEqual;

@@ -148,6 +148,28 @@ TEST_F(Registry, KnowsWhichKeysAreOpen)
     EXPECT_EQ(moved.SetStringValue(L"x", L"1"), ERROR_SUCCESS);
 }
 
+TEST_F(Registry, ClosesAKeyThatGivesItsPlaceToAnother)
+{
+    key.Create(HKEY_CURRENT_USER, L"a");
+    CRegKey other;
+    other.Create(HKEY_CURRENT_USER, L"b");
+    const HKEY closed = other.m_hKey;
+    other = std::move(key);
+    EXPECT_EQ(key.m_hKey, nullptr);
+    EXPECT_EQ(RegCloseKey(closed), ERROR_INVALID_HANDLE);
+    CRegKey& itself = other;
+    other = std::move(itself);
+    EXPECT_EQ(other.SetStringValue(L"x", L"1"), ERROR_SUCCESS) << "it is open still";
+}
+
+TEST_F(Registry, TellsThatANumberIsMissing)
+{
+    key.Create(HKEY_CURRENT_USER, L"a");
+    std::uint32_t number = 7;
+    EXPECT_EQ(key.QueryDWORDValue(L"none", number), ERROR_FILE_NOT_FOUND);
+    EXPECT_EQ(number, 7u);
+}
+
 TEST_F(Registry, SeesWhatAnotherProcessWrote)
 {
     key.Create(HKEY_CURRENT_USER, L"a");

@@ -103,6 +103,38 @@ TEST(Spline, MayHaveEndsThatItsControlPointsDoNotReach)
     EXPECT_THAT(endOf(*curve), IsNear(KdGePoint3d{4, 0, 0}));
 }
 
+TEST(PartOfASpline, IsTheCurveBetweenTwoParameters)
+{
+    const auto part = parabola()->part(0.25, 0.75);
+    ASSERT_TRUE(part);
+    EXPECT_EQ(part->interval().lower, 0.25);
+    EXPECT_EQ(part->interval().upper, 0.75);
+    EXPECT_THAT(startOf(*part), IsNear(KdGePoint3d{0.25, 0.1875, 7}));
+    EXPECT_THAT(part->evalPoint(0.5), IsNear(KdGePoint3d{0.5, 0.25, 7}));
+    EXPECT_THAT(endOf(*part), IsNear(KdGePoint3d{0.75, 0.1875, 7}));
+}
+
+TEST(PartOfASpline, RunsBackFromAHigherParameter)
+{
+    const auto part = parabola()->part(1, 0.5);
+    ASSERT_TRUE(part);
+    EXPECT_THAT(startOf(*part), IsNear(KdGePoint3d{1, 0, 7}));
+    EXPECT_THAT(endOf(*part), IsNear(KdGePoint3d{0.5, 0.25, 7}));
+}
+
+TEST(PartOfASpline, EndsWhereTheSplineDoes)
+{
+    const auto part = parabola()->part(-5, 5);
+    ASSERT_TRUE(part);
+    EXPECT_NEAR(wholeLength(*part), wholeLength(*parabola()), 1e-14);
+}
+
+TEST(PartOfASpline, IsNoneWithoutLength)
+{
+    EXPECT_FALSE(parabola()->part(0.5, 0.5));
+    EXPECT_FALSE(parabola()->part(2, 3));
+}
+
 TEST(Spline, MayShrinkToAPoint)
 {
     const auto curve = KdGeNurbCurve3d::create(1, Knots{0, 0, 1, 1}, Points{{1, 2, 3}, {1, 2, 3}});

@@ -93,6 +93,15 @@ TEST(Vector, EqualsAnotherWithinTheTolerance)
     EXPECT_FALSE(vector.isEqualTo({1.0, 2.0, 3.75}, {.equalPoint = 9.0, .equalVector = 0.5}));
 }
 
+TEST(Point, EqualsOthersWithinTheToleranceOfPoints)
+{
+    const KdGePoint3d point{1.0, 2.0, 3.0};
+    EXPECT_TRUE(point.isEqualTo({1.0, 2.0, 3.0 + 5e-11}));
+    EXPECT_FALSE(point.isEqualTo({1.0, 2.0, 3.0 + 2e-10}));
+    EXPECT_TRUE(point.isEqualTo({1.0, 2.0, 3.5}, {.equalPoint = 0.5, .equalVector = 0.0}));
+    EXPECT_FALSE(point.isEqualTo({1.0, 2.0, 3.75}, {.equalPoint = 0.5, .equalVector = 9.0}));
+}
+
 TEST(Point, HasADistanceToOthers)
 {
     EXPECT_EQ((KdGePoint2d{1.0, 1.0}.distanceTo({4.0, 5.0})), 5.0);

@@ -9,6 +9,7 @@
 #include <filesystem>
 #include <fstream>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include <csignal>
@@ -117,6 +118,16 @@ TEST(Variant, IsCopiedWithItsBytes)
     EXPECT_STREQ(copy.text(), L"abc");
     first = KdadVariant::ofInteger(3);
     EXPECT_EQ(first.integerOr(0), 3);
+}
+
+TEST(Variant, IsEmptyOnceItWasMoved)
+{
+    KdadVariant first = KdadVariant::ofText(L"abc");
+    const KdadVariant second = std::move(first);
+    EXPECT_STREQ(second.text(), L"abc");
+    EXPECT_EQ(first.type(), KdadVariant::kEmpty);
+    EXPECT_EQ(first.length(), 0);
+    EXPECT_EQ(first.data(), nullptr);
 }
 
 TEST_F(Config, GivesBackWhatWasWritten)

@@ -1,5 +1,7 @@
 #include <runtime/resbuf.h>
 
+#include <string>
+
 #include <gtest/gtest.h>
 
 #include <runtime/heap.h>
@@ -37,6 +39,50 @@ TEST(ResbufChain, TakesTextsBytesAndAllRecordsWithIt)
     EXPECT_EQ(kdHeapBlocksInUse(), before + 7 + 2 + 2);
     kdutRelRb(head);
     EXPECT_EQ(kdHeapBlocksInUse(), before);
+}
+
+TEST(ResbufChain, IsCopiedWithTextsAndBytesOfItsOwn)
+{
+    char bytes[] = {1, 0, 3};
+    resbuf number{};
+    number.restype = RTREAL;
+    number.resval.rreal = 2.5;
+    resbuf chunk{};
+    chunk.restype = 1004;
+    chunk.resval.rbinary = {3, bytes};
+    chunk.rbnext = &number;
+    resbuf text{};
+    text.restype = 1000;
+    wchar_t characters[] = L"text";
+    text.resval.rstring = characters;
+    text.rbnext = &chunk;
+
+    resbuf* copy = kdutCopyRb(&text, nullptr);
+    characters[0] = L'x';
+    bytes[0] = 9;
+    ASSERT_NE(copy, nullptr);
+    EXPECT_STREQ(copy->resval.rstring, L"text");
+    const resbuf& copiedChunk = *copy->rbnext;
+    EXPECT_EQ(std::string(copiedChunk.resval.rbinary.buf, 3), std::string("\1\0\3", 3));
+    EXPECT_EQ(copiedChunk.rbnext->resval.rreal, 2.5);
+    EXPECT_EQ(copiedChunk.rbnext->rbnext, nullptr);
+    kdutRelRb(copy);
+}
+
+TEST(ResbufChain, IsCopiedUpToARecord)
+{
+    resbuf second{};
+    second.restype = RTSHORT;
+    resbuf first{};
+    first.restype = RTREAL;
+    first.rbnext = &second;
+    resbuf* copy = kdutCopyRb(&first, &second);
+    ASSERT_NE(copy, nullptr);
+    EXPECT_EQ(copy->restype, RTREAL);
+    EXPECT_EQ(copy->rbnext, nullptr);
+    kdutRelRb(copy);
+    EXPECT_EQ(kdutCopyRb(&first, &first), nullptr);
+    EXPECT_EQ(kdutCopyRb(nullptr, nullptr), nullptr);
 }
 
 TEST(ResbufChain, MayBeNull)

@@ -4,7 +4,9 @@
 #include <cstdlib>
 #include <fstream>
 #include <iterator>
+#include <string>
 
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -74,6 +76,81 @@ TEST_F(WrittenFile, LeavesNothingWhenItsWriterIsKilled)
     ASSERT_EQ(waitpid(child, &status, 0), child);
     EXPECT_TRUE(WIFSIGNALED(status));
     EXPECT_EQ(entries(), 0);
+}
+
+TEST_F(WrittenFile, NeedsAFolder)
+{
+    EXPECT_EQ(kdWriteFile(folder / "none/a", "text", {}, error), eFileAccessError);
+    EXPECT_EQ(error, L"The folder does not exist.");
+    std::ofstream(folder / "a") << "no folder";
+    EXPECT_EQ(kdWriteFile(folder / "a/b", "text", {}, error), eFileAccessError);
+    EXPECT_EQ(error, L"The folder does not exist.");
+}
+
+TEST_F(WrittenFile, NeedsAFolderThatCanBeWrittenTo)
+{
+    // Nobody may make files there, not even who may do everything.
+    EXPECT_EQ(kdWriteFile("/sys/kernel/a", "text", {}, error), eFileAccessError);
+    EXPECT_EQ(error, L"The folder can't be written to.");
+}
+
+TEST_F(WrittenFile, IsNoFolder)
+{
+    fs::create_directory(folder / "a");
+    EXPECT_EQ(kdWriteFile(folder / "a", "text", {.overwrite = true}, error), eFileAccessError);
+    EXPECT_EQ(error, L"The target is no regular file.");
+}
+
+TEST_F(WrittenFile, HasANameThatTheFileSystemTakes)
+{
+    EXPECT_EQ(kdWriteFile(folder / std::string(300, 'a'), "text", {}, error), eFileAccessError);
+    EXPECT_EQ(error, L"The file can't be written.");
+    EXPECT_EQ(entries(), 0);
+}
+
+TEST_F(WrittenFile, MayBeLargerThanWhatIsHeldBack)
+{
+    std::string text;
+    while (text.size() < (std::size_t{5} << 19))
+        text += std::to_string(text.size()) + ' ';
+    EXPECT_EQ(kdWriteFile(folder / "a", text, {}, error), eOk);
+    EXPECT_EQ(contentOf(folder / "a"), text);
+}
+
+/// No file may grow beyond some bytes during its life, as on a disk that is full.
+class FullDisk
+{
+  public:
+    FullDisk() : m_signalBefore(std::signal(SIGXFSZ, SIG_IGN))
+    {
+        getrlimit(RLIMIT_FSIZE, &m_before);
+        const rlimit small{10, m_before.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &small);
+    }
+    ~FullDisk()
+    {
+        setrlimit(RLIMIT_FSIZE, &m_before);
+        std::signal(SIGXFSZ, m_signalBefore);
+    }
+    FullDisk(const FullDisk&) = delete;
+    FullDisk& operator=(const FullDisk&) = delete;
+
+  private:
+    void (*m_signalBefore)(int);
+    rlimit m_before{};
+};
+
+TEST_F(WrittenFile, LeavesTheOldOneWhenTheDiskIsFull)
+{
+    std::ofstream(folder / "a") << "old";
+    {
+        const FullDisk full;
+        EXPECT_EQ(kdWriteFile(folder / "a", "much too long", {.overwrite = true}, error),
+                  eFileAccessError);
+    }
+    EXPECT_EQ(error, L"There is no room for the file.");
+    EXPECT_EQ(contentOf(folder / "a"), "old");
+    EXPECT_EQ(entries(), 1);
 }
 
 TEST_F(WrittenFile, ReplacesAnotherAndLeavesNothingBesideIt)

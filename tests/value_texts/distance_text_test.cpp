@@ -131,6 +131,7 @@ constexpr Rejected kRejected[] = {
     {"decimalDenominator", L"1/2.5", RTERROR},
     {"wholeWithoutFraction", L"1-2", RTERROR},
     {"separatorAtEnd", L"1-", RTERROR},
+    {"zeroDenominatorBehindWhole", L"1-1/0", RTERROR},
     {"separatorBeforeLetter", L"1-x/2", RTERROR},
     {"blankInDecimals", L"1.5 2", RTERROR},
     {"twoBlanks", L"1  1/2", RTERROR},

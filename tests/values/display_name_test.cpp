@@ -204,6 +204,13 @@ TEST_F(DisplayName, IsEmptyForAnEntityWithoutAClass)
     EXPECT_EQ(names.ofClass(nullptr), nullptr);
 }
 
+TEST_F(DisplayName, IsEmptyForAnEntityWhoseClassIsThatOfNone)
+{
+    auto* entity = new ToyEntity(KdDbObject::desc());
+    ASSERT_EQ(m_drawing.addObject(entity, m_drawing.modelSpaceId()), eOk);
+    EXPECT_TRUE(GetEntityDisplayName(entity->objectId()).empty());
+}
+
 TEST_F(DisplayName, IsEmptyForAnErasedEntity)
 {
     KdDbBlockReference* reference = add<KdDbBlockReference>();
@@ -224,6 +231,17 @@ TEST_F(ClassId, IsThatOfTheObjectModel)
     CLSID classId{};
     EXPECT_EQ(GetCLSID(classId, circle->objectId()), 1);
     EXPECT_EQ(classId, expected);
+}
+
+TEST_F(ClassId, IsThatOfEntitiesAtLargeForAnEntityWithoutOne)
+{
+    class Unknown : public KdDbCircle
+    {
+        KdErrorStatus getClassID(CLSID*) const override { return eNotApplicable; }
+    };
+    CLSID classId{};
+    EXPECT_EQ(GetCLSID(classId, add<Unknown>()->objectId()), 1);
+    EXPECT_EQ(classId, CLSID_KdadEntity);
 }
 
 TEST_F(ClassId, StaysUntouchedForWhatIsNoEntity)

@@ -346,8 +346,7 @@ TEST_F(FilterValues, SayInTheirFallbackWhatIsComparedInTheirPlace)
         const Read unread(kind, L"no number");
         ASSERT_EQ(unread.outcome(), FilterText::Unreadable);
         const KdString fallback = fallbackText(kind).value_or(KdString());
-        EXPECT_EQ(Read(kind, fallback.kwszPtr()).record().getDouble(),
-                  unread.record().getDouble())
+        EXPECT_EQ(Read(kind, fallback.kwszPtr()).record().getDouble(), unread.record().getDouble())
             << kind;
     }
 }
