@@ -118,6 +118,36 @@ TEST_F(OpenBlock, GivesWayToAnotherOne)
     EXPECT_EQ(kdedCurrentSpaceId(), model());
 }
 
+TEST_F(OpenBlock, ShowsNothingOfElementsThatHaveNoClassForIt)
+{
+    const KdDbObjectId dictionary = OpenForRead<KdDbBlockTableRecord>(door)->extensionDictionary();
+    auto* element = new KdDbBlockElement;
+    drawing.addObject(element, dictionary);
+    KdDbEvalGraph* graph = nullptr;
+    ASSERT_EQ(kddbOpenObject(graph, KdDbEvalGraph::ofBlock(door), KdDb::kForWrite), eOk);
+    graph->edit().elements.push_back(element->objectId());
+    graph->close();
+    ASSERT_EQ(kdedOpenBlock(door), eOk);
+    EXPECT_EQ(selectable().size(), 2u);
+}
+
+TEST_F(OpenBlock, IsNoneWithoutAWorkingDrawing)
+{
+    ASSERT_EQ(kdedOpenBlock(door), eOk);
+    kddbHostApplicationServices()->setWorkingDatabase(nullptr);
+    EXPECT_TRUE(kdedOpenBlockId().isNull());
+}
+
+TEST_F(OpenBlock, CannotBeOpenedWhileItIsReadElsewhere)
+{
+    {
+        const OpenForRead<KdDbBlockTableRecord> reader(door);
+        EXPECT_EQ(kdedOpenBlock(door), eWasOpenForRead);
+        EXPECT_TRUE(kdedOpenBlockId().isNull());
+    }
+    EXPECT_EQ(kdedOpenBlock(door), eOk);
+}
+
 TEST_F(OpenBlock, IsNoSpaceAndNoExternalReference)
 {
     auto* site = drawing.addRecord<KdDbBlockTable>(L"SITE");

@@ -213,6 +213,53 @@ TEST_F(SelectionSetOfLines, StaysFastWhenRemovalsLookUpsAndAdditionsAlternate)
     EXPECT_THAT(byVisit(set), ElementsAreArray(lines));
 }
 
+TEST_F(SelectionSetOfLines, FindsInOrderWhatIsLeftOfMany)
+{
+    Ids lines = addLines(300);
+    std::ranges::sort(lines);
+    for (const KdDbObjectId id : lines)
+        set.add(id);
+    Ids left;
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        if (i % 5 == 0)
+            left.push_back(lines[i]);
+        else
+            set.remove(lines[i]);
+    }
+    EXPECT_EQ(byNumber(set), left);
+    for (std::size_t i = 0; i < lines.size(); ++i)
+        ASSERT_EQ(set.contains(lines[i]), i % 5 == 0) << i;
+    set.add(lines[1]);
+    left.push_back(lines[1]);
+    EXPECT_EQ(byVisit(set), left);
+}
+
+TEST_F(SelectionSetOfLines, FindsWhatIsLeftWhereThatAscendsNoMore)
+{
+    // Four stretches, each in order, of which none lies inside of another: 11 to 14, the lowest, 18
+    // to 20, 15 to 17. Without the lowest ones, the first and the third become a single stretch,
+    // and the last lies inside of it.
+    Ids lines = addLines(100);
+    std::ranges::sort(lines);
+    constexpr std::size_t kLowest = 75;
+    const auto high = lines.begin() + 80;
+    Ids order(high + 11, high + 15);
+    order.insert(order.end(), lines.begin(), lines.begin() + kLowest);
+    order.insert(order.end(), high + 18, high + 20);
+    order.insert(order.end(), high + 15, high + 18);
+    for (const KdDbObjectId id : order)
+        set.add(id);
+    Ids left = order;
+    for (std::size_t i = 0; i < kLowest; ++i) {
+        set.remove(lines[i]);
+        std::erase(left, lines[i]);
+        ASSERT_EQ(byVisit(set), left);
+        ASSERT_TRUE(std::ranges::all_of(left, [&](KdDbObjectId id) { return set.contains(id); }));
+    }
+    EXPECT_EQ(byNumber(set), left);
+    EXPECT_FALSE(set.contains(lines[0]));
+}
+
 TEST_F(SelectionSetOfLines, DoesNotGrowWithWhatWasRemoved)
 {
     const Ids lines = addLines(2);
