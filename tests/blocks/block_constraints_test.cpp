@@ -76,6 +76,25 @@ class BlockConstraints : public BlocksTest
     const std::vector<std::string> upToOne{"5005 0", "5005 1"};
 };
 
+TEST_F(BlockConstraints, AnswerToTheOperationsOfTheBaseClassWhateverTheirKind)
+{
+    KdDbBlockConstraintTagEntity_Extension provider(0);
+    const KdDbEntity* const entities[] = {
+        show<KdDbBlockLinearConstraintTagEntity, KdDbBlockLinearConstraintParameter>(),
+        show<KdDbBlockAngularConstraintParameterEntity, KdDbBlockAngularConstraintParameter>(),
+        show<KdDbBlockRadialConstraintTagEntity, KdDbBlockRadialConstraintParameter>()};
+    for (const KdDbEntity* entity : entities) {
+        EXPECT_EQ(provider.getDistName(entity), L"d1");
+        EXPECT_EQ(provider.getDistDesc(entity), L"Clear width");
+        EXPECT_EQ(provider.getValSetType(entity), L"List");
+        EXPECT_EQ(provider.getTextPosition(entity), (KdGePoint2d{1, 2}));
+        EXPECT_EQ(provider.getBasePosition(entity), (KdGePoint2d{6, 7}));
+        EXPECT_EQ(provider.getDimlineOffset(entity), 0.0);
+    }
+    EXPECT_EQ(provider.getDistName(nullptr), L"");
+    EXPECT_EQ(provider.getBasePosition(nullptr), (KdGePoint2d{0, 0}));
+}
+
 TEST_F(BlockConstraints, OfADistanceTellTheirDimensionLine)
 {
     expectBoth<KdDbBlockLinearConstraintTagEntity_Extension, KdDbBlockLinearConstraintParameter,

@@ -4,6 +4,7 @@
 #include <sstream>
 
 #include <command/registration.h>
+#include <entities/text.h>
 #include <plugin/entity_pe.h>
 #include <values/value_chain.h>
 
@@ -74,6 +75,31 @@ TEST_F(LastingRows, GiveWhatTheProvidersAnswer)
             if (row) {
                 EXPECT_EQ(readBy(*row, *entity), asked(*registration.provider, *entity, keys[i]))
                     << testing::PrintToString(rxClass.name()) << " number " << i;
+            }
+        }
+    }
+    EXPECT_GT(known, 500);
+}
+
+TEST_F(LastingRows, GiveWhatTheProvidersAnswerForEntitiesOfOtherClassesToo)
+{
+    const KdDbEntity* const line = make(*KdDbLine::desc());
+    const KdDbEntity* const text = make(*KdDbText::desc());
+    int known = 0;
+    for (const Registration& registration : registrations()) {
+        const KdDbEntity* other = line->isKindOf(registration.hostClass()) ? text : line;
+        if (other->isKindOf(registration.hostClass()))
+            continue; // it serves them all
+        KdArray<KdString> keys;
+        KdArray<bool> flags;
+        registration.provider->PropertyCount(make(*registration.hostClass()), keys, flags);
+        keys.append(kLayerKey);
+        for (int i = 0; i < keys.length(); ++i) {
+            const LastingRow row = lastingRow(*registration.provider, *other->isA(), keys[i]);
+            known += row.has_value();
+            if (row) {
+                EXPECT_EQ(readBy(*row, *other), asked(*registration.provider, *other, keys[i]))
+                    << testing::PrintToString(registration.hostClass()->name()) << " number " << i;
             }
         }
     }
