@@ -229,7 +229,7 @@ TEST_F(Gathering, SaysThatAnEmptyDrawingHasNoObjectsAndPrintsNothing)
     EXPECT_EQ(runSelection(nullptr, filter, matches), RunEnd::NoObjects);
 
     ASSERT_EQ(messages.shown.size(), 1u);
-    const Messages::Shown box = messages.shown.front();
+    const Messages::Box box = messages.last;
     messages.shown.clear();
     EXPECT_EQ(box.text, L"There are no objects in the current drawing.");
     EXPECT_EQ(box.caption, GetOemProductName());

@@ -14,10 +14,10 @@
 #include <entities/circle.h>
 #include <entities/line.h>
 #include <platform/main_app_service.h>
-#include <platform/message_box.h>
 
 #include <command/filter_source.h>
 #include <command/resource_scope.h>
+#include <support/messages.h>
 
 namespace command_test {
 
@@ -64,32 +64,6 @@ class MadeFilter : public FilterSource
 
   private:
     bool m_cancels = false;
-};
-
-/// Collects messages instead of showing them.
-class Messages : public MessageBoxHandler
-{
-  public:
-    struct Shown
-    {
-        HWND owner;
-        std::wstring text;
-        std::wstring caption;
-        unsigned int style;
-    };
-
-    Messages() : m_previous(setMessageBoxHandler(this)) {}
-    ~Messages() override { setMessageBoxHandler(m_previous); }
-    int show(const Message& message) override
-    {
-        shown.push_back({message.owner, message.text, message.caption, message.style});
-        return kMessageBoxOk;
-    }
-
-    std::vector<Shown> shown;
-
-  private:
-    MessageBoxHandler* m_previous;
 };
 
 /// A selection set of the test's own, freed at the end of its scope.

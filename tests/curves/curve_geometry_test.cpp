@@ -2,19 +2,16 @@
 
 #include <cmath>
 #include <memory>
-#include <numbers>
 
 #include <entities/all.h>
 #include <geometry/linear_curves.h>
 
+#include "made_curves.h"
 #include "support.h"
 
 using namespace provider_test;
 
 namespace {
-
-constexpr double kPi = std::numbers::pi;
-constexpr double kNear = 1e-12;
 
 std::unique_ptr<KdGeCurve3d> curveOf(const KdDbEntity& entity, bool unbounded = false)
 {
@@ -25,26 +22,6 @@ template <class Curve>
 const Curve* as(const std::unique_ptr<KdGeCurve3d>& curve)
 {
     return dynamic_cast<const Curve*>(curve.get());
-}
-
-void expectNear(const KdGePoint3d& actual, const KdGePoint3d& expected)
-{
-    EXPECT_NEAR(actual.distanceTo(expected), 0.0, kNear)
-        << actual.x << ',' << actual.y << ',' << actual.z;
-}
-
-KdGePoint3d startOf(const KdGeCurve3d& curve)
-{
-    KdGePoint3d point;
-    EXPECT_TRUE(curve.hasStartPoint(point));
-    return point;
-}
-
-KdGePoint3d endOf(const KdGeCurve3d& curve)
-{
-    KdGePoint3d point;
-    EXPECT_TRUE(curve.hasEndPoint(point));
-    return point;
 }
 
 TEST(CurveOfALine, IsASegmentOrALine)

@@ -2,41 +2,13 @@
 
 #include <cmath>
 #include <memory>
-#include <numbers>
 
+#include "made_curves.h"
 #include "support.h"
 
 using namespace provider_test;
 
 namespace {
-
-constexpr double kPi = std::numbers::pi;
-constexpr double kNear = 1e-12;
-
-KdGePoint3d startOf(const KdGeCurve3d& curve)
-{
-    KdGePoint3d point;
-    EXPECT_TRUE(curve.hasStartPoint(point));
-    return point;
-}
-
-KdGePoint3d endOf(const KdGeCurve3d& curve)
-{
-    KdGePoint3d point;
-    EXPECT_TRUE(curve.hasEndPoint(point));
-    return point;
-}
-
-void expectNear(const KdGePoint3d& actual, const KdGePoint3d& expected)
-{
-    EXPECT_NEAR(actual.distanceTo(expected), 0.0, kNear)
-        << actual.x << ',' << actual.y << ',' << actual.z;
-}
-
-double wholeLength(const KdGeCurve3d& curve)
-{
-    return curve.length(curve.interval().lower, curve.interval().upper, 1e-10);
-}
 
 /// (0,0), (4,0), (4,2) with half a circle in the second segment.
 class CompositeCurve : public testing::Test

@@ -13,33 +13,18 @@
 #include <QTimer>
 
 #include <command/entry.h>
+#include <support/application.h>
 #include <values/globals.h>
 
 namespace dialog_test {
 
 namespace {
 
-/// The program with windows around all tests.
-class Application : public testing::Environment
-{
-  public:
-    void SetUp() override
-    {
-        setResourceLanguage("en");
-        m_application = std::make_unique<QApplication>(m_count, m_arguments);
-        kduiApplyColorTheme();
-    }
-    void TearDown() override { m_application.reset(); }
-
-  private:
-    int m_count = 1;
-    char m_name[5] = "test";
-    char* m_arguments[2] = {m_name, nullptr};
-    std::unique_ptr<QApplication> m_application;
-};
-
 [[maybe_unused]] const auto* const kApplication =
-    testing::AddGlobalTestEnvironment(new Application);
+    testing::AddGlobalTestEnvironment(new ApplicationAround<QApplication>([] {
+        setResourceLanguage("en");
+        kduiApplyColorTheme();
+    }));
 
 class ToyProvider : public KdDbEntity_Extension
 {

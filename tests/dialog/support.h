@@ -19,11 +19,11 @@
 
 #include <database/database.h>
 #include <editor/selection_sets.h>
-#include <platform/message_box.h>
 #include <plugin/entity_pe.h>
 
 #include <command/resource_scope.h>
 #include <dialog/qselect_dialog.h>
+#include <support/messages.h>
 
 namespace dialog_test {
 
@@ -116,26 +116,6 @@ class Person
 };
 
 using Act = std::function<void(Person&)>;
-
-/// Collects messages instead of showing them.
-class Messages : public MessageBoxHandler
-{
-  public:
-    Messages() : m_previous(setMessageBoxHandler(this)) {}
-    ~Messages() override { setMessageBoxHandler(m_previous); }
-    int show(const Message& message) override
-    {
-        captions.emplace_back(message.caption);
-        shown.emplace_back(message.text);
-        return kMessageBoxOk;
-    }
-
-    std::vector<std::wstring> shown;
-    std::vector<std::wstring> captions;
-
-  private:
-    MessageBoxHandler* m_previous;
-};
 
 /// A standard drawing is the working one, the module is initialised, its texts are current, and the
 /// settings are fresh. Nothing may stay open, no record may be left over.

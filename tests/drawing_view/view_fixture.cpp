@@ -8,24 +8,12 @@
 
 #include <cstdlib>
 
+#include <support/application.h>
+
 namespace {
 
-/// The program with windows around all tests.
-class Application : public testing::Environment
-{
-  public:
-    void SetUp() override { m_application = std::make_unique<QApplication>(m_count, m_arguments); }
-    void TearDown() override { m_application.reset(); }
-
-  private:
-    int m_count = 1;
-    char m_name[5] = "test";
-    char* m_arguments[2] = {m_name, nullptr};
-    std::unique_ptr<QApplication> m_application;
-};
-
 [[maybe_unused]] const auto* const kApplication =
-    testing::AddGlobalTestEnvironment(new Application);
+    testing::AddGlobalTestEnvironment(new ApplicationAround<QApplication>);
 
 void send(QWidget& view, QEvent::Type type, QPoint pixel, Qt::MouseButton button,
           Qt::MouseButtons buttons, Qt::KeyboardModifiers modifiers)

@@ -6,9 +6,12 @@
 
 #include <geometry/point.h>
 
+#include <support/near.h>
+
 namespace entity_test {
 
-constexpr double kNear = 1e-12;
+using test_support::IsNear;
+using test_support::kNear;
 
 /// Directions of extrusion, and where the point (2, 3, 5) of their object frames lies in the world.
 constexpr KdGePoint3d kPointInFrame{2.0, 3.0, 5.0};
@@ -42,16 +45,6 @@ inline auto frames()
 inline auto frameName()
 {
     return [](const testing::TestParamInfo<FrameRow>& row) { return row.param.name; };
-}
-
-MATCHER_P(IsNear, expected, "")
-{
-    return testing::ExplainMatchResult(testing::DoubleNear(expected.x, kNear), arg.x,
-                                       result_listener) &&
-           testing::ExplainMatchResult(testing::DoubleNear(expected.y, kNear), arg.y,
-                                       result_listener) &&
-           testing::ExplainMatchResult(testing::DoubleNear(expected.z, kNear), arg.z,
-                                       result_listener);
 }
 
 } // namespace entity_test

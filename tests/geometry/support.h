@@ -8,21 +8,15 @@
 
 #include <geometry/curve.h>
 
+#include <support/near.h>
+
 namespace geometry_test {
 
-constexpr double kNear = 1e-12;
+using test_support::IsNear;
+using test_support::kNear;
+
 constexpr double kPi = std::numbers::pi;
 constexpr double kTolerance = KdGeContext::gTol.equalPoint;
-
-MATCHER_P(IsNear, expected, "")
-{
-    return testing::ExplainMatchResult(testing::DoubleNear(expected.x, kNear), arg.x,
-                                       result_listener) &&
-           testing::ExplainMatchResult(testing::DoubleNear(expected.y, kNear), arg.y,
-                                       result_listener) &&
-           testing::ExplainMatchResult(testing::DoubleNear(expected.z, kNear), arg.z,
-                                       result_listener);
-}
 
 inline double wholeLength(const KdGeCurve3d& curve)
 {

@@ -16,34 +16,19 @@
 #include <common/handle_text.h>
 #include <exchange/drawing_reader.h>
 #include <platform/resources.h>
+#include <support/application.h>
 #include <ui/theme.h>
 
 namespace panels_test {
 
 namespace {
 
-/// The program with windows around all tests.
-class Application : public testing::Environment
-{
-  public:
-    void SetUp() override
-    {
+[[maybe_unused]] const auto* const kApplication =
+    testing::AddGlobalTestEnvironment(new ApplicationAround<QApplication>([] {
         setResourceLanguage("en");
         QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
-        m_application = std::make_unique<QApplication>(m_count, m_arguments);
         kduiApplyColorTheme();
-    }
-    void TearDown() override { m_application.reset(); }
-
-  private:
-    int m_count = 1;
-    char m_name[5] = "test";
-    char* m_arguments[2] = {m_name, nullptr};
-    std::unique_ptr<QApplication> m_application;
-};
-
-[[maybe_unused]] const auto* const kApplication =
-    testing::AddGlobalTestEnvironment(new Application);
+    }));
 
 struct Collected
 {

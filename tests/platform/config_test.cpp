@@ -1,7 +1,7 @@
 #include "environment.h"
 
 #include <platform/config.h>
-#include <platform/message_box.h>
+#include <support/messages.h>
 
 #include <gtest/gtest.h>
 
@@ -19,24 +19,6 @@
 namespace {
 
 namespace fs = std::filesystem;
-
-/// Collects messages instead of showing them.
-class Messages : public MessageBoxHandler
-{
-  public:
-    Messages() : m_previous(setMessageBoxHandler(this)) {}
-    ~Messages() override { setMessageBoxHandler(m_previous); }
-    int show(const Message& message) override
-    {
-        shown.emplace_back(message.text);
-        return kMessageBoxOk;
-    }
-
-    std::vector<std::wstring> shown;
-
-  private:
-    MessageBoxHandler* m_previous;
-};
 
 class Config : public testing::Test
 {

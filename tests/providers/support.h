@@ -8,10 +8,10 @@
 #include <gtest/gtest.h>
 
 #include <database/database.h>
-#include <platform/message_box.h>
 #include <platform/resources.h>
 #include <plugin/entity_pe.h>
 
+#include <support/messages.h>
 #include <values/value_chain.h>
 
 namespace provider_test {
@@ -40,24 +40,6 @@ struct Listing
     std::vector<bool> flags;
 };
 Listing list(KdDbEntityPE& provider, const KdDbEntity* entity);
-
-/// Collects messages instead of showing them.
-class Messages : public MessageBoxHandler
-{
-  public:
-    Messages() : m_previous(setMessageBoxHandler(this)) {}
-    ~Messages() override { setMessageBoxHandler(m_previous); }
-    int show(const Message& message) override
-    {
-        shown.emplace_back(message.text);
-        return kMessageBoxOk;
-    }
-
-    std::vector<std::wstring> shown;
-
-  private:
-    MessageBoxHandler* m_previous;
-};
 
 /// A standard drawing is the working one, the two classes are registered, and English texts are
 /// current. Nothing may stay open, no record may be left over, no text may be missing.

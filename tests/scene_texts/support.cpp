@@ -3,10 +3,10 @@
 #include <QGuiApplication>
 #include <QLineF>
 
-#include <memory>
 #include <ostream>
 
 #include <kwdraw/texts/text_face.h>
+#include <support/application.h>
 
 void PrintTo(const QString& text, std::ostream* stream)
 {
@@ -17,25 +17,8 @@ namespace text_test {
 
 namespace {
 
-/// Fonts need the program around them.
-class Application : public testing::Environment
-{
-  public:
-    void SetUp() override
-    {
-        m_application = std::make_unique<QGuiApplication>(m_count, m_arguments);
-    }
-    void TearDown() override { m_application.reset(); }
-
-  private:
-    int m_count = 1;
-    char m_name[5] = "test";
-    char* m_arguments[2] = {m_name, nullptr};
-    std::unique_ptr<QGuiApplication> m_application;
-};
-
 [[maybe_unused]] const auto* const kApplication =
-    testing::AddGlobalTestEnvironment(new Application);
+    testing::AddGlobalTestEnvironment(new ApplicationAround<QGuiApplication>);
 
 } // namespace
 

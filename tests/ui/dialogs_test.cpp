@@ -9,8 +9,8 @@
 
 #include <editor/selection_sets.h>
 #include <editor/system_variables.h>
-#include <platform/message_box.h>
 #include <platform/resources.h>
+#include <support/messages.h>
 
 #include <QColorDialog>
 #include <QEvent>
@@ -127,25 +127,14 @@ TEST_F(Dialogs, FollowTheThemeWithColorsThatCanBeRead)
 
 TEST_F(Dialogs, TellThatThereIsNoHelp)
 {
-    class Messages : public MessageBoxHandler
-    {
-      public:
-        int show(const Message& message) override
-        {
-            said = message.text;
-            return kMessageBoxOk;
-        }
-        std::wstring said;
-    } messages;
-    MessageBoxHandler* const before = setMessageBoxHandler(&messages);
+    const Messages messages;
     KWCMDHELP::KdadHelp(L"TOPIC");
-    EXPECT_EQ(messages.said, L"There is no help in this program.");
+    EXPECT_EQ(messages.last.text, L"There is no help in this program.");
     std::wstring topic;
     kduiSetHelpViewer([&](const wchar_t* wanted) { topic = wanted; });
     KWCMDHELP::KdadHelp(L"TOPIC");
     EXPECT_EQ(topic, L"TOPIC");
     kduiSetHelpViewer({});
-    setMessageBoxHandler(before);
 }
 
 class Hints : public WindowTest

@@ -1,28 +1,21 @@
+#include "application.h"
+
 #include <platform/message_box.h>
 #include <ui/message_box_windows.h>
 
 #include <QAbstractButton>
-#include <QApplication>
 #include <QMessageBox>
 #include <QTimer>
 
-#include <gtest/gtest.h>
-
 #include <functional>
-#include <memory>
 #include <string>
 
 namespace {
 
-/// A program with windows, as long as a test runs.
-class MessageBoxWindows : public testing::Test
+class MessageBoxWindows : public WindowTest
 {
   protected:
-    MessageBoxWindows()
-    {
-        m_application = std::make_unique<QApplication>(m_argumentCount, m_arguments);
-        installMessageBoxWindows();
-    }
+    MessageBoxWindows() { installMessageBoxWindows(); }
     ~MessageBoxWindows() override
     {
         setMainWindow(nullptr);
@@ -47,11 +40,6 @@ class MessageBoxWindows : public testing::Test
         EXPECT_TRUE(seen);
         return answer;
     }
-
-    int m_argumentCount = 1;
-    char m_name[5] = "test";
-    char* m_arguments[2] = {m_name, nullptr};
-    std::unique_ptr<QApplication> m_application;
 };
 
 TEST_F(MessageBoxWindows, ShowTextAndCaptionAndAreAcknowledged)

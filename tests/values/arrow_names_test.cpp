@@ -83,18 +83,18 @@ TEST(GetArrowName, LeavesAnUnknownKeyAlone)
 TEST(GetArrowName, GoesOnWithTheNewTextThroughTheLaterRows)
 {
     const CurrentResources other(kOtherTexts); // there "NONE" reads "DOT", and "DOT" reads "Point"
-    CollectedMessages messages;
+    Messages messages;
     EXPECT_EQ(arrowName(L"NONE"), L"Point");
     EXPECT_EQ(arrowName(L""), L"DOT");
-    EXPECT_TRUE(messages.texts.empty());
+    EXPECT_TRUE(messages.shown.empty());
 }
 
 TEST(GetArrowName, HasOneDefaultForAllArrowheads)
 {
     const CurrentResources other(kOtherTexts);
-    CollectedMessages messages;
+    Messages messages;
     EXPECT_EQ(arrowName(L"OBLIQUE"), L"ArrowName");
-    EXPECT_THAT(messages.texts,
+    EXPECT_THAT(messages.shown,
                 testing::ElementsAre(
                     L"The string id 48286 \"ArrowName\" was not found in the resource file."));
 }

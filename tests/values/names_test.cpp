@@ -61,7 +61,7 @@ TEST_P(Color2NumberOf, IsTheIndexOfTheWordOrNumber)
 TEST(Color2Number, FollowsTheLanguageBesideTheEnglishLiterals)
 {
     const CurrentResources other(kOtherTexts); // 34492 is "Rot", and so is the short form of white
-    CollectedMessages messages;
+    Messages messages;
     EXPECT_EQ(Color2Number(L"rot"), 1);
     EXPECT_EQ(Color2Number(L"WHITE"), 7);
     EXPECT_EQ(Color2Number(L"red"), 1);
@@ -70,11 +70,11 @@ TEST(Color2Number, FollowsTheLanguageBesideTheEnglishLiterals)
 TEST(Color2Number, ComplainsOnlyAboutTheSpellingsItCameTo)
 {
     const CurrentResources other(kOtherTexts);
-    CollectedMessages messages;
+    Messages messages;
     EXPECT_EQ(Color2Number(L"byblock"), 0);
-    EXPECT_TRUE(messages.texts.empty());
+    EXPECT_TRUE(messages.shown.empty());
     EXPECT_EQ(Color2Number(L"RED"), 1);
-    EXPECT_THAT(messages.texts,
+    EXPECT_THAT(messages.shown,
                 testing::ElementsAre(
                     L"The string id 35492 \"byb\" was not found in the resource file.",
                     L"The string id 34341 \"BYBlock\" was not found in the resource file."));
@@ -83,7 +83,7 @@ TEST(Color2Number, ComplainsOnlyAboutTheSpellingsItCameTo)
 TEST(Color2Number, KnowsTheDefaultSpellingsWhereTheLibraryLacksThem)
 {
     const CurrentResources lacking(L"KrxOPMRes.dll");
-    CollectedMessages messages;
+    Messages messages;
     EXPECT_EQ(Color2Number(L"byl"), 256);
     EXPECT_EQ(Color2Number(L"y"), 2);
 }

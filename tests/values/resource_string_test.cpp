@@ -93,31 +93,31 @@ TEST_P(ResourceStringOfLength, IsWholeAndKeptInsideUpToTheLimit)
 TEST(ResourceString, ComplainsEachTimeItIsMissing)
 {
     const CurrentResources other(kOtherTexts);
-    CollectedMessages messages;
+    Messages messages;
     const wchar_t* const defaultText = L"\tGeneral:Color";
     __ResourceString text(76537, defaultText);
     EXPECT_EQ(static_cast<const wchar_t*>(text), defaultText);
     EXPECT_EQ(static_cast<const wchar_t*>(text), defaultText);
     const std::wstring complaint =
         L"The string id 76537 \"\tGeneral:Color\" was not found in the resource file.";
-    EXPECT_THAT(messages.texts, ElementsAre(complaint, complaint));
-    EXPECT_THAT(messages.styles, ElementsAre(16u, 16u));
+    EXPECT_THAT(messages.shown, ElementsAre(complaint, complaint));
+    EXPECT_EQ(messages.last.style, 16u);
 }
 
 TEST(ResourceString, ComplainsInFullAboutALongDefaultText)
 {
     const CurrentResources other(kOtherTexts);
-    CollectedMessages messages;
+    Messages messages;
     const std::wstring defaultText(3000, L'x');
     __ResourceString text(1, defaultText.c_str());
     EXPECT_EQ(static_cast<const wchar_t*>(text), defaultText);
-    EXPECT_THAT(messages.texts, ElementsAre(L"The string id 1 \"" + defaultText +
+    EXPECT_THAT(messages.shown, ElementsAre(L"The string id 1 \"" + defaultText +
                                             L"\" was not found in the resource file."));
 }
 
 TEST(ResourceString, FollowsTheLibraryOnceItIsThere)
 {
-    CollectedMessages messages;
+    Messages messages;
     __ResourceString text(34492, L"a default");
     {
         const CurrentResources lacking(L"KrxOPMRes.dll");
@@ -125,36 +125,36 @@ TEST(ResourceString, FollowsTheLibraryOnceItIsThere)
     }
     const CurrentResources english(kEnglishTexts);
     EXPECT_STREQ(text, L"Red");
-    EXPECT_EQ(messages.texts.size(), 1u);
+    EXPECT_EQ(messages.shown.size(), 1u);
 }
 
 TEST(ResourceString, IsEmptyInSilenceWithoutADefaultText)
 {
     const CurrentResources other(kOtherTexts);
-    CollectedMessages messages;
+    Messages messages;
     __ResourceString object(76537, nullptr);
     const wchar_t* const text = object;
     EXPECT_STREQ(text, L"");
     EXPECT_TRUE(liesInside(object, text));
-    EXPECT_THAT(messages.texts, IsEmpty());
+    EXPECT_THAT(messages.shown, IsEmpty());
 }
 
 TEST(ResourceString, ComplainsWithoutAnyLibrary)
 {
     ASSERT_EQ(AfxGetResourceHandle(), nullptr);
-    CollectedMessages messages;
+    Messages messages;
     __ResourceString text(34492, L"Red");
     EXPECT_STREQ(text, L"Red");
     __ResourceString nothing(34492, nullptr);
     EXPECT_STREQ(nothing, L"");
-    EXPECT_THAT(messages.texts,
+    EXPECT_THAT(messages.shown,
                 ElementsAre(L"The string id 34492 \"Red\" was not found in the resource file."));
 }
 
 TEST(ResourceString, UsesTheDefaultTextOfEachPlace)
 {
     const CurrentResources other(kOtherTexts);
-    CollectedMessages messages;
+    Messages messages;
     __ResourceString one(24000, L"X");
     __ResourceString another(24000, L" X");
     EXPECT_STREQ(one, L"X");
@@ -188,13 +188,13 @@ TEST(GetResourceString, GivesTheLibrarysOwnText)
 
 TEST(GetResourceString, GivesTheDefaultInSilenceWhereTheTextIsMissing)
 {
-    CollectedMessages messages;
+    Messages messages;
     const wchar_t* const defaultText = L"default";
     int length = -1;
     EXPECT_EQ(__GetResourceString(7, defaultText, &length, LoadResourceDll(kOtherTexts)),
               defaultText);
     EXPECT_EQ(length, 0);
-    EXPECT_THAT(messages.texts, IsEmpty());
+    EXPECT_THAT(messages.shown, IsEmpty());
 }
 
 TEST(GetResourceString, DoesNotFallBackToTheCurrentLibrary)
@@ -213,9 +213,9 @@ TEST(GetOpmStr, GivesTheNameOfAType)
 
 TEST(GetOpmStr, IsEmptyInSilenceForAnUnknownNumber)
 {
-    CollectedMessages messages;
+    Messages messages;
     EXPECT_TRUE(GetOPMStr(7).empty());
-    EXPECT_THAT(messages.texts, IsEmpty());
+    EXPECT_THAT(messages.shown, IsEmpty());
 }
 
 TEST(GetOpmStr, CutsAfter1023Characters)

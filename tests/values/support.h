@@ -7,29 +7,9 @@
 #include <gtest/gtest.h>
 
 #include <database/database.h>
-#include <platform/message_box.h>
 #include <platform/resources.h>
 
-/// Collects the messages shown during its life instead of showing them.
-class CollectedMessages : public MessageBoxHandler
-{
-  public:
-    CollectedMessages() : m_previous(setMessageBoxHandler(this)) {}
-    ~CollectedMessages() override { setMessageBoxHandler(m_previous); }
-
-    int show(const Message& message) override
-    {
-        texts.emplace_back(message.text);
-        styles.push_back(message.style);
-        return kMessageBoxOk;
-    }
-
-    std::vector<std::wstring> texts;
-    std::vector<unsigned int> styles;
-
-  private:
-    MessageBoxHandler* m_previous;
-};
+#include <support/messages.h>
 
 /// Makes a resource library current for a scope.
 class CurrentResources
