@@ -4,7 +4,6 @@
 #include <utility>
 
 #include <common/open_keys.h>
-#include <common/selection_steps.h>
 #include <common/value_text.h>
 
 namespace {
@@ -125,23 +124,14 @@ std::wstring MergedProperty::name() const
 
 void PropertyMerge::start(std::vector<KdDbObjectId> entities)
 {
-    m_entities = std::move(entities);
-    m_next = 0;
+    m_visit = SlicedVisit(m_module, std::move(entities));
     m_types.clear();
     m_typeByName.clear();
 }
 
 void PropertyMerge::readOn(std::chrono::milliseconds time)
 {
-    constexpr std::size_t kAtATime = 16;
-    const auto end = std::chrono::steady_clock::now() + time;
-    while (!isDone() && std::chrono::steady_clock::now() < end) {
-        const std::size_t stop = std::min(m_next + kAtATime, m_entities.size());
-        const Ids slice(m_entities.begin() + static_cast<std::ptrdiff_t>(m_next),
-                        m_entities.begin() + static_cast<std::ptrdiff_t>(stop));
-        visitEntities(m_module, slice, take, this);
-        m_next = stop;
-    }
+    m_visit.goOn(time, take, this);
 }
 
 void PropertyMerge::take(void* context, const quick_select::Entity& entity)

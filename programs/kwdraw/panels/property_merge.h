@@ -8,6 +8,7 @@
 #include <vector>
 
 #include <common/catalog.h>
+#include <kwdraw/panels/sliced_visit.h>
 
 /// A property of several entities.
 struct MergedProperty
@@ -40,15 +41,15 @@ struct MergedType
 class PropertyMerge
 {
   public:
-    explicit PropertyMerge(const Module& module) : m_module(module) {}
+    explicit PropertyMerge(const Module& module) : m_module(module), m_visit(module) {}
 
     /// Begins anew. Nothing is read yet.
     void start(std::vector<KdDbObjectId> entities);
     /// Reads on for about that long. The entities must still be there.
     void readOn(std::chrono::milliseconds time);
-    bool isDone() const { return m_next == m_entities.size(); }
-    std::size_t read() const { return m_next; }
-    const std::vector<KdDbObjectId>& entities() const { return m_entities; }
+    bool isDone() const { return m_visit.isDone(); }
+    std::size_t read() const { return m_visit.visited(); }
+    const std::vector<KdDbObjectId>& entities() const { return m_visit.entities(); }
 
     /// Of what is read so far, in the order in which they were met.
     const std::vector<MergedType>& types() const { return m_types; }
@@ -60,8 +61,7 @@ class PropertyMerge
     MergedType& typeOf(const quick_select::Entity& entity);
 
     const Module& m_module;
-    std::vector<KdDbObjectId> m_entities;
-    std::size_t m_next = 0;
+    SlicedVisit m_visit;
     std::vector<MergedType> m_types;
     std::unordered_map<std::wstring, std::size_t> m_typeByName;
 };

@@ -1,9 +1,6 @@
 #include <kwdraw/panels/selection_rows.h>
 
-#include <algorithm>
 #include <utility>
-
-#include <common/selection_steps.h>
 
 namespace {
 
@@ -32,8 +29,7 @@ std::vector<std::string> columnsFor(const ExportOptions& options)
 
 SelectionRows::SelectionRows(const Module& module, std::vector<KdDbObjectId> entities,
                              const ExportOptions& options, const std::string& drawing)
-    : m_module(module),
-      m_entities(std::move(entities)),
+    : m_visit(module, std::move(entities)),
       m_format(rowFormatOf(options.format)),
       m_names(columnsFor(options)),
       m_columns(module, drawing, m_names)
@@ -61,17 +57,9 @@ void SelectionRows::begin()
 
 void SelectionRows::writeOn(std::chrono::milliseconds time)
 {
-    constexpr std::size_t kAtATime = 16;
-    const auto end = std::chrono::steady_clock::now() + time;
     if (!m_writer)
         begin();
-    while (!isDone() && std::chrono::steady_clock::now() < end) {
-        const std::size_t stop = std::min(m_next + kAtATime, m_entities.size());
-        const Ids slice(m_entities.begin() + static_cast<std::ptrdiff_t>(m_next),
-                        m_entities.begin() + static_cast<std::ptrdiff_t>(stop));
-        visitEntities(m_module, slice, take, this);
-        m_next = stop;
-    }
+    m_visit.goOn(time, take, this);
 }
 
 void SelectionRows::take(void* context, const quick_select::Entity& entity)

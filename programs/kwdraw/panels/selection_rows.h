@@ -10,6 +10,7 @@
 #include <common/entity_columns.h>
 #include <common/safe_stream.h>
 #include <kwdraw/panels/selection_export.h>
+#include <kwdraw/panels/sliced_visit.h>
 
 class SelectionRows
 {
@@ -21,9 +22,9 @@ class SelectionRows
     bool open(const std::filesystem::path& file, const SafeFileRules& rules, std::string& problem);
     /// Writes on for about that long.
     void writeOn(std::chrono::milliseconds time);
-    bool isDone() const { return m_next == m_entities.size(); }
-    std::size_t written() const { return m_next; }
-    std::size_t size() const { return m_entities.size(); }
+    bool isDone() const { return m_visit.isDone(); }
+    std::size_t written() const { return m_visit.visited(); }
+    std::size_t size() const { return m_visit.entities().size(); }
     /// Puts a file in its place. False: `problem` is a sentence.
     bool finish(std::string& problem);
 
@@ -34,9 +35,7 @@ class SelectionRows
     void begin();
     static void take(void* context, const quick_select::Entity& entity);
 
-    const Module& m_module;
-    std::vector<KdDbObjectId> m_entities;
-    std::size_t m_next = 0;
+    SlicedVisit m_visit;
     RowFormat m_format;
     std::vector<std::string> m_names;
     EntityColumns m_columns;
