@@ -59,8 +59,6 @@ class EntityWalk
     bool isInSpace() const { return m_activeBlocks.size() == 1; }
     /// The entity's own look, however it is changed meanwhile.
     const SceneLook& entityLook() const { return m_entityLook; }
-    /// The look that "by block" means for the entity.
-    const SceneLook& byBlockLook() const { return m_byBlock; }
     std::uint32_t entityLayer() const { return m_entityLayer; }
     /// Changes the look until the entity is done. Colours "by block" leave it as it is, so that
     /// parts of an entity which have no colour of their own take the entity's.
