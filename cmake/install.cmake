@@ -25,7 +25,7 @@ foreach(language ${KW_LANGUAGES})
     DESTINATION lib/kwqselect/resources/${language})
 endforeach()
 
-install(FILES ${packaging}/man/kwselect.1 DESTINATION share/man/man1)
+install(FILES ${packaging}/man/kwdraw.1 ${packaging}/man/kwselect.1 DESTINATION share/man/man1)
 install(FILES ${packaging}/completion/kwselect.bash
   DESTINATION share/bash-completion/completions RENAME kwselect)
 install(FILES ${packaging}/completion/_kwselect DESTINATION share/zsh/vendor-completions)

@@ -56,7 +56,7 @@ _kwselect() {
         if [[ $current == -* ]]; then
             COMPREPLY=($(compgen -W "$(kwselect --help | grep -oE '(^|[ ,])--?[a-z][a-z-]*' | tr -d ' ,' | sort -u)" -- "$current"))
         else
-            COMPREPLY=($(compgen -f -X '!*.[dD][xX][fF]' -- "$current") $(compgen -d -- "$current"))
+            COMPREPLY=($(compgen -f -X '!*.[dD][xXwW][fFgG]' -- "$current") $(compgen -d -- "$current"))
         fi
         ;;
     esac

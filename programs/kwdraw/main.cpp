@@ -28,12 +28,18 @@ struct Options
 std::optional<int> readOptions(int argc, char** argv, Options& options)
 {
     CLI::App app("Shows a drawing and selects among its objects by their properties.", "kwdraw");
-    CLI::Option* drawing = app.add_option("drawing", options.drawing, "a DXF file");
-    app.add_option("--layout", options.layout, "the layout to show, \"Model\" or a sheet")
+    CLI::Option* drawing =
+        app.add_option("DRAWING", options.drawing,
+                       "A DXF file, or a DWG file where the converter dwg2dxf is on the path");
+    drawing->option_text(" ");
+    app.add_option("--layout", options.layout, "The layout to show first: Model or a sheet")
+        ->option_text("NAME")
         ->needs(drawing);
-    app.add_option("--colors", options.colors, "the colours of the windows")
+    app.add_option("--colors", options.colors,
+                   "The colours of the windows: system, light, dark or contrast")
+        ->option_text("NAME")
         ->check(CLI::IsMember({"system", "light", "dark", "contrast"}));
-    app.set_version_flag("--version", KW_VERSION);
+    app.set_version_flag("--version", "kwdraw " KW_VERSION, "Print the version and exit");
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& problem) {

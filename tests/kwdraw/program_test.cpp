@@ -1,7 +1,10 @@
 // The program itself, as it is started from a terminal.
 #include <gtest/gtest.h>
 
+#include <QFile>
 #include <QProcess>
+#include <QRegularExpression>
+#include <QSet>
 #include <QTemporaryDir>
 
 namespace {
@@ -25,18 +28,31 @@ Outcome run(const QStringList& arguments)
     return {process.exitCode(), process.readAllStandardOutput(), process.readAllStandardError()};
 }
 
+QSet<QString> wordsIn(const QByteArray& text, const char* pattern)
+{
+    QSet<QString> words;
+    auto match = QRegularExpression(pattern).globalMatch(text);
+    while (match.hasNext())
+        words << match.next().captured(1);
+    return words;
+}
+
 TEST(Program, TellsItsVersion)
 {
     const Outcome outcome = run({"--version"});
     EXPECT_EQ(outcome.status, 0);
-    EXPECT_TRUE(outcome.out.contains('.'));
+    EXPECT_TRUE(QRegularExpression(R"(^kwdraw \d+\.\d+\.\d+\n$)").match(outcome.out).hasMatch());
 }
 
-TEST(Program, TellsItsOptions)
+TEST(Program, TellsTheOptionsOfItsManualPage)
 {
+    QFile page(KW_SOURCE_DIR "/packaging/man/kwdraw.1");
+    ASSERT_TRUE(page.open(QIODevice::ReadOnly));
     const Outcome outcome = run({"--help"});
     EXPECT_EQ(outcome.status, 0);
-    EXPECT_TRUE(outcome.out.contains("--layout"));
+    const QSet<QString> told = wordsIn(outcome.out, "--([a-z]+)");
+    EXPECT_TRUE(told.contains("layout"));
+    EXPECT_EQ(told, wordsIn(page.readAll(), "Fl -([a-z]+)"));
 }
 
 TEST(Program, RefusesColorsThatThereAreNot)

@@ -74,7 +74,8 @@ class DebianPackages(unittest.TestCase):
         for name in ("bin/kwselect", "lib/kwqselect/KwQselectUtil.so",
                      "lib/kwqselect/resources/en/KwQselectUtilRes.so",
                      "lib/kwqselect/resources/de/kwdraw.qm",
-                     "share/man/man1/kwselect.1", "share/bash-completion/completions/kwselect",
+                     "share/man/man1/kwselect.1", "share/man/man1/kwdraw.1",
+                     "share/bash-completion/completions/kwselect",
                      "share/zsh/vendor-completions/_kwselect",
                      "share/fish/vendor_completions.d/kwselect.fish",
                      "share/doc/kwqselect/LICENSE"):
