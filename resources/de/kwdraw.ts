@@ -1270,5 +1270,97 @@ Zeigt Zeichnungen und wählt ihre Objekte nach Eigenschaften aus.</translation>
         <source>%1 selected</source>
         <translation>%1 ausgewählt</translation>
     </message>
+    <message>
+        <source>Inches</source>
+        <translation>Zoll</translation>
+    </message>
+    <message>
+        <source>Feet</source>
+        <translation>Fuß</translation>
+    </message>
+    <message>
+        <source>Miles</source>
+        <translation>Meilen</translation>
+    </message>
+    <message>
+        <source>Millimeters</source>
+        <translation>Millimeter</translation>
+    </message>
+    <message>
+        <source>Centimeters</source>
+        <translation>Zentimeter</translation>
+    </message>
+    <message>
+        <source>Meters</source>
+        <translation>Meter</translation>
+    </message>
+    <message>
+        <source>Kilometers</source>
+        <translation>Kilometer</translation>
+    </message>
+    <message>
+        <source>Microinches</source>
+        <translation>Mikrozoll</translation>
+    </message>
+    <message>
+        <source>Mils</source>
+        <translation>Mil</translation>
+    </message>
+    <message>
+        <source>Yards</source>
+        <translation>Yard</translation>
+    </message>
+    <message>
+        <source>Angstroms</source>
+        <translation>Ångström</translation>
+    </message>
+    <message>
+        <source>Nanometers</source>
+        <translation>Nanometer</translation>
+    </message>
+    <message>
+        <source>Microns</source>
+        <translation>Mikrometer</translation>
+    </message>
+    <message>
+        <source>Decimeters</source>
+        <translation>Dezimeter</translation>
+    </message>
+    <message>
+        <source>Dekameters</source>
+        <translation>Dekameter</translation>
+    </message>
+    <message>
+        <source>Hectometers</source>
+        <translation>Hektometer</translation>
+    </message>
+    <message>
+        <source>Gigameters</source>
+        <translation>Gigameter</translation>
+    </message>
+    <message>
+        <source>Astronomical units</source>
+        <translation>Astronomische Einheiten</translation>
+    </message>
+    <message>
+        <source>Light years</source>
+        <translation>Lichtjahre</translation>
+    </message>
+    <message>
+        <source>Parsecs</source>
+        <translation>Parsec</translation>
+    </message>
+    <message>
+        <source>US survey feet</source>
+        <translation>US-Vermessungsfuß</translation>
+    </message>
+    <message>
+        <source>US survey inches</source>
+        <translation>US-Vermessungszoll</translation>
+    </message>
+    <message>
+        <source>US survey yards</source>
+        <translation>US-Vermessungsyard</translation>
+    </message>
 </context>
 </TS>

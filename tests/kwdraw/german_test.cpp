@@ -5,6 +5,7 @@
 
 #include <QDialogButtonBox>
 #include <QFile>
+#include <QLabel>
 #include <QLibraryInfo>
 #include <QMenuBar>
 #include <QMessageBox>
@@ -54,6 +55,12 @@ TEST_F(German, NamesMenusAndCommands)
               (QStringList{"&Datei", "&Bearbeiten", "&Ansicht", "&Hilfe"}));
     EXPECT_EQ(action(Command::Open).text(), "Ö&ffnen...");
     EXPECT_EQ(action(Command::SelectAll).toolTip().section(" (", 0, 0), "Alles auswählen");
+}
+
+TEST_F(German, NamesTheUnitsOfTheDrawing)
+{
+    openPlan();
+    EXPECT_EQ(window->findChild<QLabel*>("units")->text(), "Millimeter");
 }
 
 TEST_F(German, HasNoLetterToPressTwiceInAMenu)

@@ -162,7 +162,7 @@ void fillWideSegments(const std::vector<WideSegment>& segments, const FlatFrame&
 void fillDashes(const std::vector<WideSegment>& segments, const FlatFrame& frame, bool runsOn,
                 EntityWalk& walk)
 {
-    constexpr std::size_t kMostDashes = 20'000;
+    constexpr std::size_t kMostDashes = 20000;
     constexpr std::size_t kPointsOfDash = 8;
     const SceneLook& look = walk.entityLook();
     const SceneLinetype* linetype = walk.looks().dashesOf(look);

@@ -29,6 +29,33 @@ QString lengthText(double value)
     return kddbRToS(value, text, -1, -1) == RTNORM ? textOf(text) : QString();
 }
 
+/// The units as the host names them, for the catalogues.
+[[maybe_unused]] constexpr const char* kUnits[] = {
+    QT_TRANSLATE_NOOP("StatusLine", "Inches"),
+    QT_TRANSLATE_NOOP("StatusLine", "Feet"),
+    QT_TRANSLATE_NOOP("StatusLine", "Miles"),
+    QT_TRANSLATE_NOOP("StatusLine", "Millimeters"),
+    QT_TRANSLATE_NOOP("StatusLine", "Centimeters"),
+    QT_TRANSLATE_NOOP("StatusLine", "Meters"),
+    QT_TRANSLATE_NOOP("StatusLine", "Kilometers"),
+    QT_TRANSLATE_NOOP("StatusLine", "Microinches"),
+    QT_TRANSLATE_NOOP("StatusLine", "Mils"),
+    QT_TRANSLATE_NOOP("StatusLine", "Yards"),
+    QT_TRANSLATE_NOOP("StatusLine", "Angstroms"),
+    QT_TRANSLATE_NOOP("StatusLine", "Nanometers"),
+    QT_TRANSLATE_NOOP("StatusLine", "Microns"),
+    QT_TRANSLATE_NOOP("StatusLine", "Decimeters"),
+    QT_TRANSLATE_NOOP("StatusLine", "Dekameters"),
+    QT_TRANSLATE_NOOP("StatusLine", "Hectometers"),
+    QT_TRANSLATE_NOOP("StatusLine", "Gigameters"),
+    QT_TRANSLATE_NOOP("StatusLine", "Astronomical units"),
+    QT_TRANSLATE_NOOP("StatusLine", "Light years"),
+    QT_TRANSLATE_NOOP("StatusLine", "Parsecs"),
+    QT_TRANSLATE_NOOP("StatusLine", "US survey feet"),
+    QT_TRANSLATE_NOOP("StatusLine", "US survey inches"),
+    QT_TRANSLATE_NOOP("StatusLine", "US survey yards"),
+};
+
 QString unitsOfDrawing()
 {
     const KdDbDatabase* database = kddbHostApplicationServices()->workingDatabase();
@@ -37,7 +64,7 @@ QString unitsOfDrawing()
     KdString name;
     const int unit = static_cast<int>(database->header().integer(L"INSUNITS"));
     const bool isKnown = unit != 0 && kdedGetUnitsValueString(unit, name) == RTNORM;
-    return isKnown ? textOf(name) : StatusLine::tr("No units");
+    return isKnown ? StatusLine::tr(textOf(name).toUtf8()) : StatusLine::tr("No units");
 }
 
 } // namespace
