@@ -4,6 +4,7 @@
 
 #include <dimensions/dimension_readers.h>
 #include <providers/name_rows.h>
+#include <providers/text_values.h>
 #include <values/value_lists.h>
 
 namespace {
@@ -196,7 +197,7 @@ constexpr PropertyRow kRows[] = {
     {{77496, L"Text:Text offset"},                          editable,        ResBuf::kReal,           value<&Dimension::dimgap>},
     {{77497, L"Text:Text outside align"},                   editable,        ResBuf::kBool,           value<&Dimension::dimtoh>},
     {{77498, L"Text:Text pos vert"},                        editable,        ResBuf::kString,         nameOf<&Dimension::dimtad, kVerticalPositions>,              namesOf<kVerticalPositions>},
-    {{77499, L"Text:Text style"},                           editable,        ResBuf::kString,         value<textStyle>,                                            textStyleNames},
+    {{77499, L"Text:Text style"},                           editable,        ResBuf::kString,         value<textStyle>,                                            textStyleChoices},
     {{77500, L"Text:Text inside align"},                    editable,        ResBuf::kBool,           value<&Dimension::dimtih>},
     {{77501, L"Text:Text position"},                        derived,         ResBuf::kPoint3d,        value<&Dimension::textPosition>},
     {{77503, L"Text:Text rotation"},                        editable,        ResBuf::kAngle,          value<&Dimension::textRotation>},

@@ -98,13 +98,3 @@ bool linetypesForDisplay(const PropertyRequest& request)
     }
     return true;
 }
-
-bool textStyleNames(const PropertyRequest& request)
-{
-    if (request.withChoices) {
-        PropListFiller lists;
-        lists.fillTextStyle();
-        chainLines(request.head, lists.textStyles);
-    }
-    return true;
-}

@@ -40,4 +40,3 @@ void chainLineweights(ResBuf& head);
 // Choices. Linetypes and lineweights are only offered with their display texts.
 bool lineweightsForDisplay(const PropertyRequest& request);
 bool linetypesForDisplay(const PropertyRequest& request);
-bool textStyleNames(const PropertyRequest& request);
