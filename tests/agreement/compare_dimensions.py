@@ -21,14 +21,13 @@ Differences that are allowed, and why:
 """
 
 import math
-import re
 import subprocess
 import sys
 
 from ezdxf.entities.dimstyle import DimStyle
 from ezdxf.math import intersection_line_line_2d
 
-from drawing_comparison import load
+from drawing_comparison import load, unescaped
 
 NAMES = DimStyle.CODE_TO_DXF_ATTRIB
 
@@ -52,10 +51,6 @@ CLASSES = {
     3: "AcDbDiametricDimension", 4: "AcDbRadialDimension", 5: "AcDb3PointAngularDimension",
     6: "AcDbOrdinateDimension", 8: "AcDbArcDimension",
 }  # fmt: skip
-
-
-def unescaped(text):
-    return re.sub(r"\\u\{([0-9a-f]+)\}", lambda m: chr(int(m.group(1), 16)), text)
 
 
 def actual_dimensions(program, path):

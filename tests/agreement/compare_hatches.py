@@ -14,7 +14,7 @@ import sys
 
 from ezdxf.math import BSpline, bulge_to_arc
 
-from drawing_comparison import load
+from drawing_comparison import load, unescaped
 
 LEVELS = 700
 PIECES = 400
@@ -120,7 +120,6 @@ def filled_area(hatch):
 def expected_row(hatch):
     name = hatch.dxf.pattern_name
     name = name[:-3] if name.endswith(",_O") else name
-    name = "".join(c if 32 < ord(c) < 127 else "?" for c in name) or "-"
     gradient = hatch.gradient if hatch.has_gradient_data else None
     scale = hatch.dxf.get("pattern_scale", 1.0)
     user = hatch.dxf.pattern_type == 0
@@ -137,7 +136,7 @@ def expected_row(hatch):
         "space": scale if user else 1.0,
         "elevation": hatch.dxf.elevation.z,
         "area": filled_area(hatch),
-        "gradient name": gradient.name or "-" if gradient else "-",
+        "gradient name": gradient.name if gradient else "",
         "gradient angle": math.radians(gradient.rotation) if gradient else 0.0,
     }
 
@@ -148,7 +147,7 @@ def actual_rows(program, path):
         handle, *fields = line.split(" ")
         names = ("name type style solid associative gradient loops angle scale space elevation area").split()
         names += ["gradient name", "gradient angle"]
-        yield handle, dict(zip(names, fields))
+        yield handle, dict(zip(names, map(unescaped, fields)))
 
 
 def same(name, wanted, got):

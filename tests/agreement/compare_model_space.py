@@ -16,23 +16,16 @@ the handle where the file states one. Differences that are allowed, and why:
 - ezdxf gives raw values: a colour out of range is one by layer for us.
 """
 
-import collections
-import re
 import subprocess
 import sys
 
 from ezdxf.entities import DXFTagStorage
 from ezdxf.lldxf.const import DXFKeyError
 
-from drawing_comparison import load_or_repair
+from drawing_comparison import load_or_repair, stated_once, unescaped
 
 BY_LAYER = "bylayer"
 KINDS_WITH_OTHER_NAMES = {"MLEADER": "MULTILEADER", "3DLINE": "LINE"}
-
-
-def unescaped(text):
-    text = re.sub(r"\\u\{([0-9a-f]+)\}", lambda m: chr(int(m.group(1), 16)), text)
-    return "" if text == "-" else text
 
 
 def value_of(entity, name, code, default):
@@ -83,18 +76,6 @@ def actual_rows(program, path):
         )
 
 
-def stated_handles(path):
-    """Handles that the file states exactly once; empty for binary files, which are not searched."""
-    with open(path, "rb") as file:
-        data = file.read()
-    if data.startswith(bytes.fromhex("4175746f434144")):
-        return set()
-    lines = [line.strip() for line in re.split(b"\r\n|\n|\r", data)]
-    pairs = zip(lines[0::2], lines[1::2])
-    counts = collections.Counter(v.upper().decode("latin1") for c, v in pairs if c in (b"5", b"105"))
-    return {handle for handle, count in counts.items() if count == 1 and handle.strip("0")}
-
-
 def same_name(expected, actual, encoding):
     if expected == actual:
         return True
@@ -119,7 +100,7 @@ def compare(program, path):
         return True
     expected = list(expected_rows(document))
     actual = list(actual_rows(program, path))
-    handles = stated_handles(path)
+    handles = {handle for handle in stated_once(path) or () if handle.strip("0")}
     if repaired:  # what ezdxf has kept must be there, in that order
         kept = {row[1] for row in expected}
         actual = [row for row in actual if row[1] in kept or len(actual) == len(expected)]

@@ -12,24 +12,17 @@ handle: texts, places, sizes, angles, modes, styles, vertices. Differences that 
 - ezdxf drops styles that are not defined when it has to recover a file, and makes objects of its own
   with handles that the file only refers to.
 - Some old drawings say a code page and hold UTF-8. ezdxf trusts the page, we trust the bytes.
-- Handles that occur twice, or are 0, are replaced by either reader as it likes; entities older than
-  R12 have none.
 - ezdxf's plain text differs from ours in how it shows stacks and what is no code; it is compared
   where a text has none of them.
 """
 
-import json
 import math
 import re
-import subprocess
 import sys
 
 from ezdxf.math import OCS, Vec3
 
-from drawing_comparison import load
-
-KINDS = {"TEXT", "MTEXT", "ATTRIB", "ATTDEF", "SHAPE", "TOLERANCE", "LEADER", "MULTILEADER", "MLEADER"}
-TURN = 2 * math.pi
+from drawing_comparison import close, compare_all, same_angle
 
 
 def without_escapes(text):
@@ -37,25 +30,17 @@ def without_escapes(text):
     return re.sub(r"\^([@-_ ])", lambda m: "^" if m[1] == " " else chr(ord(m[1]) - 64), text)
 
 
-def close(a, b):
-    return abs(a - b) <= 1e-9 * max(1.0, abs(a), abs(b))
-
-
-def same_angle(a, b):
-    return abs((a - b + math.pi) % TURN - math.pi) < 1e-6
-
-
 def same_point(a, b):
     return all(close(x, y) for x, y in zip(a, tuple(Vec3(b))))
 
 
-def same_text(expected, actual, encoding):
+def same_text(entity, expected, actual):
     expected = without_escapes(expected).replace("\n", "\\P")
     actual = actual.replace("\n", "\\P")
     if expected == actual:
         return True
     try:
-        return expected.encode(encoding, "surrogateescape").decode("utf8") == actual
+        return expected.encode(entity.doc.encoding, "surrogateescape").decode("utf8") == actual
     except UnicodeError:
         return False
 
@@ -65,9 +50,9 @@ def in_world(entity, name):
     return OCS(entity.dxf.get("extrusion", (0, 0, 1))).to_wcs(point)
 
 
-def check_text(entity, row, encoding):
+def check_text(entity, row):
     dxf = entity.dxf
-    yield "text", same_text(dxf.get("text", ""), row["text"], encoding)
+    yield "text", same_text(entity, dxf.get("text", ""), row["text"])
     yield "position", same_point(row["position"], in_world(entity, "insert"))
     yield "alignmentPoint", same_point(row["alignmentPoint"], in_world(entity, "align_point"))
     yield "height", close(dxf.get("height", 0), row["height"])
@@ -77,34 +62,34 @@ def check_text(entity, row, encoding):
     yield "horizontal", dxf.get("halign", 0) == row["horizontal"]
     yield "vertical", dxf.get("valign", 0) == row["vertical"]
     if dxf.hasattr("style"):
-        yield "style", same_text(dxf.style.lower(), row["style"].lower(), encoding)
+        yield "style", same_text(entity, dxf.style.lower(), row["style"].lower())
     flags = dxf.get("text_generation_flag", 0)
     yield "backward", bool(flags & 2) == row["backward"]
     yield "upsideDown", bool(flags & 4) == row["upsideDown"]
 
 
-def check_attribute(entity, row, encoding):
-    yield from check_text(entity, row, encoding)
-    yield "tag", same_text(entity.dxf.get("tag", ""), row["tag"], encoding)
+def check_attribute(entity, row):
+    yield from check_text(entity, row)
+    yield "tag", same_text(entity, entity.dxf.get("tag", ""), row["tag"])
     flags = entity.dxf.get("flags", 0)
     yield "modes", [bool(flags & bit) for bit in (1, 2, 4, 8)] == row["modes"]
     if entity.dxftype() == "ATTDEF":
-        yield "prompt", same_text(entity.dxf.get("prompt", ""), row["prompt"], encoding)
+        yield "prompt", same_text(entity, entity.dxf.get("prompt", ""), row["prompt"])
     if entity.has_embedded_mtext_entity:
         lines = entity.virtual_mtext_entity()
         yield "lines", "lines" in row
-        yield "lines' text", same_text(lines.text, row["lines"]["contents"], encoding)
+        yield "lines' text", same_text(entity, lines.text, row["lines"]["contents"])
         yield "lines' place", same_point(row["lines"]["location"], lines.dxf.insert)
         yield "lines' height", close(lines.dxf.char_height, row["lines"]["textHeight"])
 
 
-def check_mtext(entity, row, encoding):
+def check_mtext(entity, row):
     dxf = entity.dxf
     if entity.has_columns and entity.columns.linked_columns:
         whole = entity.all_columns_raw_content()
-        yield "contents", same_text(whole, row["contents"], encoding)
+        yield "contents", same_text(entity, whole, row["contents"])
     else:
-        yield "contents", same_text(entity.text, row["contents"], encoding)
+        yield "contents", same_text(entity, entity.text, row["contents"])
         if not re.search(r"\\[SNUX]|%%|\\\W|\^|\t", entity.text) and entity.text.isascii():
             yield "plain", entity.plain_text(split=False) == row["plain"]
     yield "location", same_point(row["location"], dxf.insert)
@@ -121,7 +106,7 @@ def check_mtext(entity, row, encoding):
     yield "spacingStyle", dxf.get("line_spacing_style", 1) == row["spacingStyle"]
     yield "fill", bool(dxf.get("bg_fill", 0) & 3) == row["fill"]
     if dxf.hasattr("style"):
-        yield "style", same_text(dxf.style.lower(), row["style"].lower(), encoding)
+        yield "style", same_text(entity, dxf.style.lower(), row["style"].lower())
     ocs = OCS(dxf.get("extrusion", (0, 0, 1)))
     if dxf.hasattr("text_direction"):
         yield "rotation", same_angle(ocs.from_wcs(Vec3(dxf.text_direction)).angle, row["rotation"])
@@ -129,7 +114,7 @@ def check_mtext(entity, row, encoding):
         yield "rotation", same_angle(math.radians(dxf.get("rotation", 0)), row["rotation"])
 
 
-def check_leader(entity, row, encoding):
+def check_leader(entity, row):
     dxf = entity.dxf
     yield "count", len(entity.vertices) == len(row["vertices"])
     yield "vertices", all(same_point(b, a) for a, b in zip(entity.vertices, row["vertices"]))
@@ -141,7 +126,7 @@ def check_leader(entity, row, encoding):
     yield "dimensionStyle", dxf.get("dimstyle", "Standard").lower() == row["dimensionStyle"].lower()
 
 
-def check_mleader(entity, row, encoding):
+def check_mleader(entity, row):
     dxf = entity.dxf
     context = entity.context
     lines = [line.vertices for leader in context.leaders for line in leader.lines]
@@ -164,7 +149,7 @@ def check_mleader(entity, row, encoding):
     yield "has text", (context.mtext is not None) == ("text" in row)
     if context.mtext:
         text, got = context.mtext, row["text"]
-        yield "contents", same_text(text.default_content, got["contents"], encoding)
+        yield "contents", same_text(entity, text.default_content, got["contents"])
         yield "location", same_point(got["location"], text.insert)
         yield "rotation", same_angle(text.text_direction.angle, got["rotation"])
         yield "width", close(text.width, got["width"])
@@ -174,14 +159,14 @@ def check_mleader(entity, row, encoding):
         yield "attachment", text.alignment == got["attachment"]
 
 
-def check_shape(entity, row, encoding):
+def check_shape(entity, row):
     yield "name", entity.dxf.name == row["name"]
     yield "size", close(entity.dxf.size, row["size"])
     yield "position", same_point(row["position"], in_world(entity, "insert"))
 
 
-def check_tolerance(entity, row, encoding):
-    yield "text", same_text(entity.dxf.content, row["text"], encoding)
+def check_tolerance(entity, row):
+    yield "text", same_text(entity, entity.dxf.content, row["text"])
     yield "location", same_point(row["location"], entity.dxf.insert)
     style = entity.dxf.get("dimstyle", "Standard")
     yield "dimensionStyle", style.lower() == row["dimensionStyle"].lower()
@@ -200,60 +185,5 @@ CHECKS = {
 }
 
 
-def stated_once(path):
-    """Handles that the file states exactly once; None for binary files, which are not searched."""
-    with open(path, "rb") as file:
-        data = file.read()
-    if data.startswith(bytes.fromhex("4175746f434144")):
-        return None
-    lines = [line.strip() for line in re.split(b"\r\n|\n|\r", data)]
-    found = [v.upper() for c, v in zip(lines[0::2], lines[1::2]) if c in (b"5", b"105")]
-    counts = {}
-    for handle in found:
-        counts[handle] = counts.get(handle, 0) + 1
-    return {handle.decode("latin1") for handle, count in counts.items() if count == 1}
-
-
-def compare(program, path):
-    document = load(path)
-    if document is None:
-        print("not readable by ezdxf, left out:", path)
-        return True, 0
-    output = subprocess.run([program, path], capture_output=True, check=True).stdout
-    rows = {row["handle"]: row for row in map(json.loads, output.splitlines())}
-    handles = stated_once(path)
-    faults, compared = [], 0
-    for entity in list(document.entitydb.values()):
-        kind = entity.dxftype()
-        if kind not in KINDS or not entity.is_alive or not entity.dxf.handle:
-            continue
-        handle = entity.dxf.handle
-        if handles is not None and handle.upper() not in handles:
-            continue
-        row = rows.get(int(handle, 16))
-        if row is None:
-            if entity.dxf.owner is not None:
-                faults.append((kind, handle, "missing"))
-            continue
-        compared += 1
-        faults += [
-            (kind, handle, name)
-            for name, good in CHECKS[kind](entity, row, document.encoding)
-            if not good
-        ]
-    for kind, handle, name in faults[:5]:
-        print("%s: %s %s: %s" % (path, kind, handle, name))
-    return not faults, compared
-
-
-def main():
-    program, paths = sys.argv[1], sys.argv[2:]
-    results = [compare(program, path) for path in paths]
-    compared = sum(count for _, count in results)
-    differ = sum(not good for good, _ in results)
-    print("%d drawings with %d texts and leaders, %d differ" % (len(results), compared, differ))
-    return 0 if compared and not differ else 1
-
-
 if __name__ == "__main__":
-    sys.exit(main())
+    sys.exit(compare_all(sys.argv[1], sys.argv[2:], CHECKS, "texts and leaders"))

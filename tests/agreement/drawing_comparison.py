@@ -50,6 +50,13 @@ def stated_once(path):
     return {handle for handle, count in counts.items() if count == 1}
 
 
+def unescaped(word):
+    """A text of which our program made one word."""
+    if word == "-":
+        return ""
+    return re.sub(r"\\u\{([0-9a-f]+)\}", lambda m: chr(int(m.group(1), 16)), word)
+
+
 def close(a, b, scale=1.0):
     return abs(a - b) <= 1e-9 * max(scale, abs(a), abs(b))
 

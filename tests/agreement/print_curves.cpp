@@ -2,12 +2,12 @@
 // finds.
 #include <cmath>
 #include <cstdio>
-#include <cstdlib>
 
 #include <nlohmann/json.hpp>
 
 #include <entities/all.h>
-#include <exchange/drawing_reader.h>
+
+#include "print_drawing.h"
 
 namespace {
 
@@ -170,17 +170,9 @@ void addKind(const KdDbCurve& curve, json& row)
     (tryKind(dynamic_cast<const Kinds*>(&curve)) || ...);
 }
 
-} // namespace
-
-int main(int argc, char** argv)
+void print(const KdDbDatabase& drawing)
 {
-    std::unique_ptr<KdDbDatabase> database;
-    ReadReport report;
-    if (argc != 2 || readDrawing(argv[1], database, report) != eOk) {
-        std::fprintf(stderr, "usage: print_curves <readable drawing>\n");
-        return EXIT_FAILURE;
-    }
-    for (const KdDbObject* object : database->objects()) {
+    for (const KdDbObject* object : drawing.objects()) {
         if (!object->isKindOf(KdDbCurve::desc()))
             continue;
         const auto& curve = static_cast<const KdDbCurve&>(*object);
@@ -190,5 +182,11 @@ int main(int argc, char** argv)
                 KdDbXline>(curve, row);
         std::printf("%s\n", row.dump().c_str());
     }
-    return EXIT_SUCCESS;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    return printDrawing(argc, argv, print);
 }

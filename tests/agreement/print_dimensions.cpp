@@ -1,41 +1,19 @@
 // Prints the dimensions of a drawing's model and sheets, a line for what each measures and one for
 // each of its variables, to be compared with what another reader finds.
 #include <cstdio>
-#include <cstdlib>
 #include <string>
 
 #include <entities/dimension.h>
-#include <exchange/drawing_reader.h>
+
+#include "print_drawing.h"
 
 namespace {
-
-/// As ASCII, with all other characters escaped, so that a line is a line.
-std::string printable(const KdString& text)
-{
-    std::string result;
-    for (const wchar_t c : text.view()) {
-        char escaped[16];
-        if (c > L' ' && c < 0x7F && c != L'\\')
-            result.push_back(static_cast<char>(c));
-        else if (std::snprintf(escaped, sizeof escaped, "\\u{%x}", static_cast<unsigned>(c)) > 0)
-            result += escaped;
-    }
-    return result;
-}
 
 std::string numberText(double value)
 {
     char text[40];
     std::snprintf(text, sizeof text, "%.12g", value);
     return text;
-}
-
-std::string recordName(KdDbObjectId id)
-{
-    if (!id.isKindOf(KdDbSymbolTableRecord::desc()))
-        return {};
-    const OpenForRead<KdDbSymbolTableRecord> record(id);
-    return record ? printable(record->name()) : std::string();
 }
 
 std::string valueText(const KdDbDimVariable& variable, const KdDbDimValue& value)
@@ -48,7 +26,7 @@ std::string valueText(const KdDbDimVariable& variable, const KdDbDimValue& value
         return numberText(*real);
     if (const auto* text = std::get_if<KdString>(&value))
         return printable(*text);
-    return recordName(std::get<KdDbObjectId>(value));
+    return printable(recordName(std::get<KdDbObjectId>(value)));
 }
 
 void print(const KdDbDimension& dimension)
@@ -57,7 +35,7 @@ void print(const KdDbDimension& dimension)
     const bool measures = dimension.measurement(measured) == eOk;
     std::printf("dimension %llX %s\n", static_cast<unsigned long long>(dimension.handle()),
                 printable(dimension.isA()->name()).c_str());
-    std::printf("style %s\n", recordName(dimension.dimensionStyle()).c_str());
+    std::printf("style %s\n", printable(recordName(dimension.dimensionStyle())).c_str());
     std::printf("text %s\n", printable(dimension.dimensionText()).c_str());
     std::printf("measurement %s\n", measures ? numberText(measured).c_str() : "none");
     int number = 0;
@@ -68,24 +46,17 @@ void print(const KdDbDimension& dimension)
     }
 }
 
+void print(const KdDbDatabase& drawing)
+{
+    for (const KdDbObject* object : drawing.objects()) {
+        if (object->isKindOf(KdDbDimension::desc()))
+            print(static_cast<const KdDbDimension&>(*object));
+    }
+}
+
 } // namespace
 
 int main(int argc, char** argv)
 {
-    if (argc != 2) {
-        std::fprintf(stderr, "usage: print_dimensions <drawing>\n");
-        return EXIT_FAILURE;
-    }
-    std::unique_ptr<KdDbDatabase> database;
-    ReadReport report;
-    if (readDrawing(argv[1], database, report) != eOk) {
-        std::fprintf(stderr, "%s\n", printable(report.error).c_str());
-        return EXIT_FAILURE;
-    }
-    for (std::size_t i = 0; i < database->objects().size(); ++i) {
-        const KdDbObject* object = database->objects()[i];
-        if (object->isKindOf(KdDbDimension::desc()))
-            print(static_cast<const KdDbDimension&>(*object));
-    }
-    return EXIT_SUCCESS;
+    return printDrawing(argc, argv, print);
 }

@@ -1,21 +1,12 @@
 // Prints the hatches of a drawing, one line for each, to be compared with what another reader
 // finds.
 #include <cstdio>
-#include <cstdlib>
-#include <string>
 
 #include <entities/hatch.h>
-#include <exchange/drawing_reader.h>
+
+#include "print_drawing.h"
 
 namespace {
-
-std::string printable(const KdString& text)
-{
-    std::string result;
-    for (const wchar_t c : text.view())
-        result.push_back(c > L' ' && c < 0x7F ? static_cast<char>(c) : '?');
-    return result.empty() ? "-" : result;
-}
 
 void print(const KdDbHatch& hatch)
 {
@@ -32,20 +23,18 @@ void print(const KdDbHatch& hatch)
                 printable(hatch.gradientName()).c_str(), hatch.gradientAngle());
 }
 
-} // namespace
-
-int main(int argc, char** argv)
+void print(const KdDbDatabase& drawing)
 {
-    std::unique_ptr<KdDbDatabase> database;
-    ReadReport report;
-    if (argc != 2 || readDrawing(argv[1], database, report) != eOk) {
-        std::fprintf(stderr, "usage: print_hatches <drawing that can be read>\n");
-        return EXIT_FAILURE;
-    }
-    for (const KdDbObject* object : database->objects()) {
+    for (const KdDbObject* object : drawing.objects()) {
         const OpenForRead<KdDbHatch> hatch(object->objectId());
         if (hatch)
             print(*hatch);
     }
-    return EXIT_SUCCESS;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    return printDrawing(argc, argv, print);
 }

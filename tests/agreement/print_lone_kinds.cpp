@@ -5,7 +5,8 @@
 #include <vector>
 
 #include <entities/all.h>
-#include <exchange/drawing_reader.h>
+
+#include "print_drawing.h"
 
 namespace {
 
@@ -97,21 +98,19 @@ bool print(const KdDbObject& object)
     return true;
 }
 
-} // namespace
-
-int main(int argumentCount, char** arguments)
+void print(const KdDbDatabase& drawing)
 {
-    std::unique_ptr<KdDbDatabase> database;
-    ReadReport report;
-    if (argumentCount != 2 || readDrawing(arguments[1], database, report) != eOk) {
-        std::cerr << "usage: print_lone_kinds <drawing>\n";
-        return 1;
-    }
     std::cout << std::setprecision(17);
-    for (const KdDbObject* object : database->objects()) {
+    for (const KdDbObject* object : drawing.objects()) {
         print<KdDbFace>(*object) || print<KdDbFilledFace>(*object) ||
             print<KdDbRasterImage>(*object) || print<KdDbMline>(*object) ||
             print<KdDbLight>(*object);
     }
-    return 0;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    return printDrawing(argc, argv, print);
 }

@@ -1,13 +1,13 @@
 // Prints the texts, shapes, tolerance frames and leaders of a drawing as JSON, a line for each, to
 // be compared with what another reader finds.
 #include <cstdio>
-#include <cstdlib>
 
 #include <nlohmann/json.hpp>
 
 #include <entities/all.h>
-#include <exchange/drawing_reader.h>
 #include <runtime/utf8.h>
+
+#include "print_drawing.h"
 
 namespace {
 
@@ -28,14 +28,6 @@ json vector(const KdGeVector3d& v)
     return {v.x, v.y, v.z};
 }
 
-std::string recordName(KdDbObjectId id)
-{
-    if (!id.isKindOf(KdDbSymbolTableRecord::desc()))
-        return {};
-    const OpenForRead<KdDbSymbolTableRecord> record(id);
-    return record ? utf8(record->name()) : std::string();
-}
-
 json describe(const KdDbMText& text)
 {
     KdString contents;
@@ -53,7 +45,7 @@ json describe(const KdDbMText& text)
             {"spacing", text.lineSpacingFactor()},
             {"spacingStyle", text.lineSpacingStyle()},
             {"fill", text.backgroundFillOn()},
-            {"style", recordName(text.textStyle())},
+            {"style", utf8(recordName(text.textStyle()))},
             {"columns", text.columnType() == KdDb::kNoColumns ? 0 : text.columnCount()}};
 }
 
@@ -68,7 +60,7 @@ json describe(const KdDbText& text)
             {"widthFactor", text.widthFactor()},
             {"horizontal", text.horizontalMode()},
             {"vertical", text.verticalMode()},
-            {"style", recordName(text.textStyle())},
+            {"style", utf8(recordName(text.textStyle()))},
             {"backward", text.isMirroredInX()},
             {"upsideDown", text.isMirroredInY()}};
 }
@@ -90,7 +82,7 @@ json describe(const KdDbLeader& leader)
             {"arrow", leader.hasArrowHead()},
             {"splined", leader.isSplined()},
             {"annotation", leader.annotationObjId().handle()},
-            {"dimensionStyle", recordName(leader.dimensionStyle())}};
+            {"dimensionStyle", utf8(recordName(leader.dimensionStyle()))}};
 }
 
 json describe(const KdDbMLeader& leader)
@@ -113,7 +105,7 @@ json describe(const KdDbMLeader& leader)
                 {"right", leader.textAttachmentType(KdDb::kRightLeader)},
                 {"frame", leader.enableFrameText()},
                 {"lineWeight", leader.leaderLineWeight()},
-                {"textStyle", recordName(leader.textStyleId())},
+                {"textStyle", utf8(recordName(leader.textStyleId()))},
                 {"gap", leader.landingGap()}};
     if (const auto text = leader.mtext())
         row["text"] = describe(*text);
@@ -148,21 +140,13 @@ json describe(const KdDbEntity& entity)
     if (const auto* frame = dynamic_cast<const KdDbFcf*>(&entity))
         return {{"text", utf8(frame->text())},
                 {"location", point(frame->location())},
-                {"dimensionStyle", recordName(frame->dimensionStyle())}};
+                {"dimensionStyle", utf8(recordName(frame->dimensionStyle()))}};
     return {};
 }
 
-} // namespace
-
-int main(int argc, char** argv)
+void print(const KdDbDatabase& drawing)
 {
-    std::unique_ptr<KdDbDatabase> database;
-    ReadReport report;
-    if (argc != 2 || readDrawing(argv[1], database, report) != eOk) {
-        std::fprintf(stderr, "usage: print_texts <readable drawing>\n");
-        return EXIT_FAILURE;
-    }
-    for (const KdDbObject* object : database->objects()) {
+    for (const KdDbObject* object : drawing.objects()) {
         if (!object->isKindOf(KdDbEntity::desc()))
             continue;
         json row = describe(static_cast<const KdDbEntity&>(*object));
@@ -171,5 +155,11 @@ int main(int argc, char** argv)
         row["handle"] = object->handle();
         std::printf("%s\n", row.dump(-1, ' ', true, json::error_handler_t::replace).c_str());
     }
-    return EXIT_SUCCESS;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    return printDrawing(argc, argv, print);
 }
