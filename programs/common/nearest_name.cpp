@@ -46,12 +46,14 @@ const std::wstring* nearestName(const std::wstring& wanted, const std::vector<st
 std::string notFound(const std::string& what, const std::string& name,
                      const std::vector<std::wstring>& known, const std::string& noneKnown)
 {
-    std::string sentence = "no " + what + " \"" + name + '"';
+    const std::string sentence = "no " + what + " \"" + name + '"';
     if (known.empty())
         return sentence + noneKnown;
     const std::wstring* nearest = nearestName(kdFromUtf8(name), known);
-    sentence += nearest ? "; did you mean " + inQuotes(*nearest) + '?' : ";";
-    return sentence + " There are: " + commaList(known);
+    if (nearest)
+        return sentence + "; did you mean " + inQuotes(*nearest) +
+               "? There are: " + commaList(known);
+    return sentence + "; there are: " + commaList(known);
 }
 
 std::string commaList(const std::vector<std::wstring>& names)

@@ -1097,7 +1097,7 @@ Zeigt Zeichnungen und wählt ihre Objekte nach Eigenschaften aus.</translation>
         <translation>kein Objekttyp „%1“; ist „%2“ gemeint? Es gibt: %3</translation>
     </message>
     <message>
-        <source>no object type &quot;%1&quot;; There are: %2</source>
+        <source>no object type &quot;%1&quot;; there are: %2</source>
         <translation>kein Objekttyp „%1“; es gibt: %2</translation>
     </message>
     <message>
@@ -1109,7 +1109,7 @@ Zeigt Zeichnungen und wählt ihre Objekte nach Eigenschaften aus.</translation>
         <translation>keine Eigenschaft „%1“; ist „%2“ gemeint? Es gibt: %3</translation>
     </message>
     <message>
-        <source>no property &quot;%1&quot;; There are: %2</source>
+        <source>no property &quot;%1&quot;; there are: %2</source>
         <translation>keine Eigenschaft „%1“; es gibt: %2</translation>
     </message>
     <message>

@@ -337,6 +337,10 @@ class Refusing(unittest.TestCase):
         message = self.refused(self.plan, "--property", "Layr", "--value", "X")
         self.assertIn('no property "Layr"; did you mean "Layer"?', message)
 
+    def test_a_wrong_property_like_no_other_names_all(self):
+        message = self.refused(self.plan, "--property", "Quux", "--value", "X")
+        self.assertIn('no property "Quux"; there are: Color, Layer, ', message)
+
     def test_a_wrong_operator_names_the_right_ones(self):
         message = self.refused(self.plan, "--property", "Layer", "--operator", ">", "--value", "X")
         self.assertIn("There are: =, <>, all", message)

@@ -69,10 +69,10 @@ constexpr const char* kSentences[] = {
     QT_TRANSLATE_NOOP("Sentences", "A table record of that kind is not known; it was left out"),
     // filters
     QT_TRANSLATE_NOOP("Sentences", "no object type \"%1\"; did you mean \"%2\"? There are: %3"),
-    QT_TRANSLATE_NOOP("Sentences", "no object type \"%1\"; There are: %2"),
+    QT_TRANSLATE_NOOP("Sentences", "no object type \"%1\"; there are: %2"),
     QT_TRANSLATE_NOOP("Sentences", "no object type \"%1\"; the drawing holds none"),
     QT_TRANSLATE_NOOP("Sentences", "no property \"%1\"; did you mean \"%2\"? There are: %3"),
-    QT_TRANSLATE_NOOP("Sentences", "no property \"%1\"; There are: %2"),
+    QT_TRANSLATE_NOOP("Sentences", "no property \"%1\"; there are: %2"),
     QT_TRANSLATE_NOOP("Sentences", "\"%1\" names several properties; say one of: %2"),
     QT_TRANSLATE_NOOP("Sentences", "no operator \"%1\" for this property. There are: %2"),
     QT_TRANSLATE_NOOP("Sentences", "no operator \"%1\" for this property"),
