@@ -1,4 +1,4 @@
-#include "application.h"
+#include "window_test.h"
 
 #include <ui/color_dialog.h>
 #include <ui/dialog.h>

@@ -1,4 +1,4 @@
-#include "application.h"
+#include "window_test.h"
 
 #include <platform/message_box.h>
 #include <ui/message_box_windows.h>

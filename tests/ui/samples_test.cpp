@@ -1,4 +1,4 @@
-#include "application.h"
+#include "window_test.h"
 
 #include "samples.h"
 
