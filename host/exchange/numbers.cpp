@@ -1,8 +1,10 @@
 #include "numbers.h"
 
 #include <array>
+#include <bit>
 #include <charconv>
 #include <cmath>
+#include <cstring>
 #include <limits>
 #include <string>
 
@@ -26,38 +28,86 @@ bool isDigit(char c)
     return c >= '0' && c <= '9';
 }
 
-/// Reads a decimal number without exponent, if it has few digits, as by far the most numbers have:
-/// then digits and power of ten are exact, and one division rounds as it should. False for all
-/// other texts, `value` untouched.
+constexpr unsigned kAtOnce = 8; ///< digits that are read in one piece
+constexpr std::uint64_t kZeros = 0x3030303030303030u;
+constexpr std::uint64_t kPowers[] = {1, 10, 100, 1000, 10000, 100000, 1000000, 10000000, 100000000};
+
+/// Eight characters of a text as digits, each in a byte, that of the first one lowest.
+std::uint64_t digitsFrom(const char* place)
+{
+    std::uint64_t characters;
+    std::memcpy(&characters, place, sizeof characters);
+    return characters ^ kZeros;
+}
+
+/// The first `count` of them, at least one, behind so many zeros that they are eight again.
+std::uint64_t firstOf(std::uint64_t digits, unsigned count)
+{
+    return digits << (64 - 8 * count);
+}
+
+/// Has the upper bit set for the first one that is no digit, and none before it.
+std::uint64_t findNoDigit(std::uint64_t digits)
+{
+    return ((digits + 0x7676767676767676u) | digits) & 0x8080808080808080u;
+}
+
+/// The number that eight digits make.
+std::uint64_t numberOf(std::uint64_t digits)
+{
+    return fast_float::parse_eight_digits_unrolled(digits + kZeros);
+}
+
+/// Appends so many decimals, from 1 to 8, to a number of at most seven digits.
+bool appendFewDecimals(const char* decimals, unsigned count, std::uint64_t whole, double& value)
+{
+    constexpr double kRealPowers[] = {1e0, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7, 1e8};
+    const std::uint64_t digits = firstOf(digitsFrom(decimals), count);
+    if (findNoDigit(digits) != 0)
+        return false;
+    // Both parts of the division are exact, and so it rounds as it should.
+    value = static_cast<double>(whole * kPowers[count] + numberOf(digits)) / kRealPowers[count];
+    return true;
+}
+
+/// The same for 9 to 16 decimals, with which there must be no more than 19 digits.
+bool appendManyDecimals(const char* decimals, unsigned count, std::uint64_t whole, double& value)
+{
+    const std::uint64_t first = digitsFrom(decimals);
+    const std::uint64_t rest = firstOf(digitsFrom(decimals + kAtOnce), count - kAtOnce);
+    if ((findNoDigit(first) | findNoDigit(rest)) != 0)
+        return false;
+    const std::uint64_t digits =
+        (whole * kPowers[kAtOnce] + numberOf(first)) * kPowers[count - kAtOnce] + numberOf(rest);
+    using Format = fast_float::binary_format<double>;
+    const auto exponent = -static_cast<std::int64_t>(count); // so small that no digit is lost
+    fast_float::to_float(false, fast_float::compute_float<Format>(exponent, digits), value);
+    return true;
+}
+
+/// Reads a number of one to seven digits, a point, and decimals, as nearly all numbers are written,
+/// with a minus or without. It takes the text in pieces of a fixed size, for which it need not be
+/// looked for the end. False for all other texts, `value` untouched.
 bool readPlainReal(std::string_view text, double& value)
 {
-    constexpr double kPowers[] = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
-                                  1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
-    constexpr std::size_t kMostDigits = 15;
-    constexpr std::size_t kSignAndPoint = 2;
-    if (text.size() > kMostDigits + kSignAndPoint) // full precision is frequent, too
+    constexpr std::size_t kMostDigits = 19;
+    if (text.empty())
         return false;
-    const bool isNegative = text.starts_with('-');
+    const bool isNegative = text.front() == '-';
     text.remove_prefix(isNegative ? 1 : 0);
-    std::int64_t digits = 0;
-    std::size_t point = text.size();
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        const unsigned digit = static_cast<unsigned>(text[i] - '0');
-        if (digit < 10)
-            digits = digits * 10 + digit;
-        else if (text[i] == '.' && point == text.size())
-            point = i;
-        else
-            return false;
-        if (i > kMostDigits)
-            return false;
-    }
-    const std::size_t count = text.size() - (point < text.size() ? 1 : 0);
-    if (count == 0 || count > kMostDigits)
+    const std::uint64_t digits = digitsFrom(text.data());
+    const auto count = static_cast<unsigned>(std::countr_zero(findNoDigit(digits))) / 8;
+    if (count == 0 || count == kAtOnce || text.size() < count + 2 || text[count] != '.')
         return false;
-    const std::size_t decimals = point < text.size() ? text.size() - point - 1 : 0;
-    const double magnitude = static_cast<double>(digits) / kPowers[decimals];
-    value = isNegative ? -magnitude : magnitude;
+    const std::uint64_t whole = numberOf(firstOf(digits, count));
+    text.remove_prefix(count + 1);
+    if (text.size() > 2 * kAtOnce || count + text.size() > kMostDigits)
+        return false;
+    const auto decimals = static_cast<unsigned>(text.size());
+    if (!(decimals <= kAtOnce ? appendFewDecimals(text.data(), decimals, whole, value)
+                              : appendManyDecimals(text.data(), decimals, whole, value)))
+        return false;
+    value = isNegative ? -value : value;
     return true;
 }
 

@@ -15,10 +15,12 @@ enum class NumberState : std::uint8_t
 };
 
 /// Reads a real. Blanks around it and a plus sign are allowed. `value` receives what can be read,
-/// at the least 0; it is always finite.
+/// at the least 0; it is always finite. What stands behind `text` is looked at, so that must be
+/// readable as it is in a file; see `kReadablePastEnd`.
 NumberState parseReal(std::string_view text, double& value);
 
-/// The same for an integer; one that is written as a real is cut.
+/// The same for an integer, which must stand in such a place, too; one that is written as a real is
+/// cut.
 NumberState parseInteger(std::string_view text, std::int64_t& value);
 
 /// Reads a handle, in hexadecimal; false, with `handle` 0, if it is none.

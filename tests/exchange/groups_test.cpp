@@ -1,3 +1,4 @@
+#include <bit>
 #include <cmath>
 #include <cstdint>
 #include <cstdlib>
@@ -296,6 +297,38 @@ INSTANTIATE_TEST_SUITE_P(Widths, BinaryGroupsOf,
                                          BinaryCase{"codesOfTwoBytes", false}),
                          [](const auto& row) { return row.param.name; });
 
+/// A text as it stands in a file, where something follows it.
+class TextInFile
+{
+  public:
+    TextInFile(std::string_view text, char behind)
+        : m_bytes(std::string(text) + std::string(kReadablePastEnd, behind)), m_size(text.size())
+    {
+    }
+    std::string_view view() const { return std::string_view(m_bytes).substr(0, m_size); }
+
+  private:
+    std::string m_bytes;
+    std::size_t m_size;
+};
+
+/// What stands behind a text counts for nothing, be it a digit.
+constexpr char kBehind[] = {'\0', '\n', '7', '.', 'e', '\xFF'};
+
+bool isSame(double a, double b)
+{
+    return std::bit_cast<std::uint64_t>(a) == std::bit_cast<std::uint64_t>(b);
+}
+
+void expectReal(const std::string& text)
+{
+    for (const char behind : kBehind) {
+        double value = 1.0;
+        ASSERT_EQ(parseReal(TextInFile(text, behind).view(), value), NumberState::Good) << text;
+        ASSERT_PRED2(isSame, value, std::strtod(text.c_str(), nullptr)) << text;
+    }
+}
+
 TEST(Numbers, AreTheNearestToWhatIsWrittenHoweverManyDigitsThereAre)
 {
     std::uint64_t state = 1;
@@ -305,30 +338,55 @@ TEST(Numbers, AreTheNearestToWhatIsWrittenHoweverManyDigitsThereAre)
     };
     for (int i = 0; i < 20000; ++i) {
         std::string text = next(2) ? "-" : "";
-        const std::uint64_t whole = next(10);
-        for (std::uint64_t k = 0; k <= whole; ++k)
+        for (std::uint64_t k = next(11); k > 0; --k)
             text += static_cast<char>('0' + next(10));
+        const std::uint64_t decimals = text.ends_with('-') || text.empty() ? 1 : 0;
         text += '.';
-        for (std::uint64_t k = next(12); k > 0; --k)
+        for (std::uint64_t k = decimals + next(20); k > 0; --k)
             text += static_cast<char>('0' + next(10));
-        double value = 0.0;
-        ASSERT_EQ(parseReal(text, value), NumberState::Good) << text;
-        ASSERT_EQ(value, std::strtod(text.c_str(), nullptr)) << text;
+        if (next(8) == 0)
+            text += "e" + std::to_string(static_cast<int>(next(60)) - 30);
+        expectReal(text);
     }
+}
+
+TEST(Numbers, AreTheNearestAtTheEdgesOfTheirForms)
+{
+    for (const char* text : {"1234567.5",
+                             "12345678.5",
+                             "0.12345678",
+                             "0.123456789",
+                             "7.1234567812345678",
+                             "7.12345678123456781",
+                             "123.1234567812345678",
+                             "1234.1234567812345678",
+                             "999.9999999999999999",
+                             "9999999.999999999999",
+                             "0.0000000000000001",
+                             "0.9999999999999999",
+                             "900719.9254740992",
+                             "900719.9254740993",
+                             "900719.9254740995",
+                             "4503599.627370497",
+                             "1.00000000000000011",
+                             "1.0000000000000002",
+                             "0.00000000",
+                             "0.000000000",
+                             "0000000.000000000000",
+                             "0000001.5"})
+        expectReal(text);
 }
 
 TEST(Numbers, KeepTheSignOfANegativeZero)
 {
-    double value = 1.0;
-    EXPECT_EQ(parseReal("-0.0", value), NumberState::Good);
-    EXPECT_EQ(value, 0.0);
-    EXPECT_TRUE(std::signbit(value));
+    for (const char* text : {"-0.0", "-0", "-0.0000000000", "-.0"})
+        expectReal(text);
 }
 
 struct NumberCase
 {
     const char* name;
-    const char* text;
+    std::string_view text;
     double value;
     NumberState state;
 };
@@ -339,27 +397,56 @@ class RealFrom : public testing::TestWithParam<NumberCase>
 
 TEST_P(RealFrom, Text)
 {
-    double value = -1.0;
-    EXPECT_EQ(parseReal(GetParam().text, value), GetParam().state);
-    EXPECT_DOUBLE_EQ(value, GetParam().value);
+    for (const char behind : kBehind) {
+        double value = -1.0;
+        EXPECT_EQ(parseReal(TextInFile(GetParam().text, behind).view(), value), GetParam().state);
+        EXPECT_PRED2(isSame, value, GetParam().value);
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(
     Numbers, RealFrom,
-    testing::Values(NumberCase{"plain", "2.5", 2.5, NumberState::Good},
-                    NumberCase{"blanks", "  -7.25\t", -7.25, NumberState::Good},
-                    NumberCase{"plusSign", "+3", 3.0, NumberState::Good},
-                    NumberCase{"exponent", "1.5E+02", 150.0, NumberState::Good},
-                    NumberCase{"pointAlone", ".5", 0.5, NumberState::Good},
-                    NumberCase{"comma", "12,75", 12.75, NumberState::Comma},
-                    NumberCase{"commaAndExponent", "1,5e1", 15.0, NumberState::Comma},
-                    NumberCase{"commaAndRest", "1,5x", 1.5, NumberState::Malformed},
-                    NumberCase{"lettersBehind", "7abc", 7.0, NumberState::Malformed},
-                    NumberCase{"letters", "abc", 0.0, NumberState::Malformed},
-                    NumberCase{"nothing", "", 0.0, NumberState::Malformed},
-                    NumberCase{"notANumber", "nan", 0.0, NumberState::Malformed},
-                    NumberCase{"infinity", "inf", 0.0, NumberState::Malformed},
-                    NumberCase{"tooLarge", "1e999", 0.0, NumberState::Malformed}),
+    testing::Values(
+        NumberCase{"plain", "2.5", 2.5, NumberState::Good},
+        NumberCase{"blanks", "  -7.25\t", -7.25, NumberState::Good},
+        NumberCase{"blanksAround", " 1234.125 ", 1234.125, NumberState::Good},
+        NumberCase{"plusSign", "+3", 3.0, NumberState::Good},
+        NumberCase{"plusSignAndDecimals", "+3.25", 3.25, NumberState::Good},
+        NumberCase{"whole", "90", 90.0, NumberState::Good},
+        NumberCase{"wholeOfEightDigits", "12345678", 12345678.0, NumberState::Good},
+        NumberCase{"exponent", "1.5E+02", 150.0, NumberState::Good},
+        NumberCase{"negativeExponent", "-1.5e-2", -0.015, NumberState::Good},
+        NumberCase{"pointAlone", ".5", 0.5, NumberState::Good},
+        NumberCase{"pointAtTheEnd", "5.", 5.0, NumberState::Good},
+        NumberCase{"twentyDigits", "12345678901234567890", 12345678901234567890.0,
+                   NumberState::Good},
+        NumberCase{"comma", "12,75", 12.75, NumberState::Comma},
+        NumberCase{"commaAndExponent", "1,5e1", 15.0, NumberState::Comma},
+        NumberCase{"commaAndRest", "1,5x", 1.5, NumberState::Malformed},
+        NumberCase{"lettersBehind", "7abc", 7.0, NumberState::Malformed},
+        NumberCase{"letterBehindDecimals", "7.125x", 7.125, NumberState::Malformed},
+        NumberCase{"letterAmongDecimals", "7.5x25", 7.5, NumberState::Malformed},
+        NumberCase{"letterBehindTenDecimals", "7.1234567890x", 7.123456789, NumberState::Malformed},
+        NumberCase{"byteAmongDecimals",
+                   "7.5\xFF"
+                   "5",
+                   7.5, NumberState::Malformed},
+        NumberCase{"colon", "1:5", 1.0, NumberState::Malformed},
+        NumberCase{"slashAmongDecimals", "2.5/5", 2.5, NumberState::Malformed},
+        NumberCase{"twoPoints", "1.5.5", 1.5, NumberState::Malformed},
+        NumberCase{"pointsTogether", "1..5", 1.0, NumberState::Malformed},
+        NumberCase{"zeroByte", std::string_view("1.5\0", 4), 1.5, NumberState::Malformed},
+        NumberCase{"twoSigns", "--1.5", 0.0, NumberState::Malformed},
+        NumberCase{"signBehindPlus", "+-1.5", -1.5, NumberState::Good},
+        NumberCase{"signInside", "1-5.5", 1.0, NumberState::Malformed},
+        NumberCase{"blankBehindSign", "- 1.5", 0.0, NumberState::Malformed},
+        NumberCase{"signAlone", "-", 0.0, NumberState::Malformed},
+        NumberCase{"nothingButAPoint", ".", 0.0, NumberState::Malformed},
+        NumberCase{"letters", "abc", 0.0, NumberState::Malformed},
+        NumberCase{"nothing", "", 0.0, NumberState::Malformed},
+        NumberCase{"notANumber", "nan", 0.0, NumberState::Malformed},
+        NumberCase{"infinity", "inf", 0.0, NumberState::Malformed},
+        NumberCase{"tooLarge", "1e999", 0.0, NumberState::Malformed}),
     [](const auto& row) { return row.param.name; });
 
 struct IntegerCase
@@ -377,7 +464,7 @@ class IntegerFrom : public testing::TestWithParam<IntegerCase>
 TEST_P(IntegerFrom, Text)
 {
     std::int64_t value = -1;
-    EXPECT_EQ(parseInteger(GetParam().text, value), GetParam().state);
+    EXPECT_EQ(parseInteger(TextInFile(GetParam().text, '\n').view(), value), GetParam().state);
     EXPECT_EQ(value, GetParam().value);
 }
 
