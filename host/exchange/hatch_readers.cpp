@@ -1,4 +1,5 @@
 // Hatches.
+#include <algorithm>
 #include <cmath>
 #include <numbers>
 #include <utility>
@@ -16,7 +17,7 @@ constexpr double kTurn = 2.0 * std::numbers::pi;
 
 /// Reads one loop after the other. The same codes mean different things in corners, in each kind of
 /// edge and behind the loops, so what the last 92 and 72 said decides. The counts that drawings
-/// give are not needed.
+/// give only serve to make room.
 class LoopReader
 {
   public:
@@ -39,6 +40,7 @@ class LoopReader
     };
 
     HatchLoop& loop() { return m_hatch.loops.back(); }
+    void expectCorners();
     bool takeCorner();
     bool takeEdge();
     bool takeLine();
@@ -77,6 +79,8 @@ bool LoopReader::take()
         m_isInLoops = false;
         return false;
     case 93:
+        expectCorners();
+        return m_isInLoops;
     case 97:
         return m_isInLoops;
     case 330: {
@@ -90,6 +94,15 @@ bool LoopReader::take()
     default:
         return m_isInLoops && (loop().isPolyline() ? takeCorner() : takeEdge());
     }
+}
+
+/// Makes room for the number of corners that is stated; loops are small, as a rule.
+void LoopReader::expectCorners()
+{
+    constexpr std::size_t kMost = 1000;
+    constexpr std::uint32_t kLeastBytes = 10; // of a corner
+    if (m_isInLoops && loop().isPolyline())
+        loop().vertices.reserve(std::min(m_reader.statedCount(kLeastBytes), kMost));
 }
 
 bool LoopReader::takeCorner()

@@ -1,5 +1,8 @@
 #include "member_source.h"
 
+#include <array>
+#include <atomic>
+#include <mutex>
 #include <unordered_map>
 
 #include "member_readers.h"
@@ -26,7 +29,15 @@ constexpr std::span<const MemberReaderRow> (*kFamilies[])() = {
     viewportReaders,    xrecordReaders,
 };
 
-/// All rows by class.
+/// How the members of a class are read.
+struct Reading
+{
+    const KdRxClass* rxClass;
+    const MemberReaderRow* row;
+    bool isEntity;
+};
+
+/// All rows by class. Several threads may ask at the same time.
 class ReaderMap
 {
   public:
@@ -38,7 +49,36 @@ class ReaderMap
         }
     }
 
-    const MemberReaderRow& find(const KdRxClass* rxClass) const
+    const Reading& find(const KdRxClass* rxClass)
+    {
+        std::atomic<const Reading*>& recent = m_recent[placeOf(rxClass)];
+        const Reading* reading = recent.load(std::memory_order_acquire);
+        if (!reading || reading->rxClass != rxClass) {
+            reading = &findAnew(rxClass);
+            recent.store(reading, std::memory_order_release);
+        }
+        return *reading;
+    }
+
+  private:
+    static constexpr unsigned kBits = 10;
+
+    static std::size_t placeOf(const KdRxClass* rxClass)
+    {
+        constexpr std::uint64_t kGoldenRatio = 0x9E3779B97F4A7C15u;
+        return reinterpret_cast<std::uintptr_t>(rxClass) * kGoldenRatio >> (64 - kBits);
+    }
+
+    const Reading& findAnew(const KdRxClass* rxClass)
+    {
+        const std::lock_guard lock(m_guard);
+        const auto [known, isNew] = m_readings.try_emplace(rxClass);
+        if (isNew)
+            known->second = {rxClass, &rowOf(rxClass), rxClass->isDerivedFrom(KdDbEntity::desc())};
+        return known->second;
+    }
+
+    const MemberReaderRow& rowOf(const KdRxClass* rxClass) const
     {
         for (; rxClass; rxClass = rxClass->myParent()) {
             const auto found = m_rows.find(rxClass);
@@ -48,13 +88,16 @@ class ReaderMap
         return kOtherClasses;
     }
 
-  private:
     std::unordered_map<const KdRxClass*, const MemberReaderRow*> m_rows;
+    std::mutex m_guard;
+    std::unordered_map<const KdRxClass*, Reading> m_readings; ///< of all classes asked for so far
+    /// Stands before the other, so that nearly all questions need no lock.
+    std::array<std::atomic<const Reading*>, std::size_t{1} << kBits> m_recent{};
 };
 
-const MemberReaderRow& readerOf(const KdDbObject& object)
+const Reading& readingOf(const KdDbObject& object)
 {
-    static const ReaderMap readers;
+    static ReaderMap readers;
     return readers.find(object.isA());
 }
 
@@ -68,7 +111,7 @@ std::string_view MemberSource::bytes(SourceRange range) const
 
 bool mayBeReadBeside(const KdDbObject& object)
 {
-    return readerOf(object).mayBeBeside;
+    return readingOf(object).row->mayBeBeside;
 }
 
 void readMembers(DrawingSource& source, const KdDbObject& object, SourceRange range,
@@ -76,8 +119,10 @@ void readMembers(DrawingSource& source, const KdDbObject& object, SourceRange ra
 {
     if (range.length == 0)
         return;
-    RecordReader reader(source, object, range, members);
-    readerOf(object).read(reader, members);
+    const Reading& reading = readingOf(object);
+    RecordReader reader(source, object, range, members,
+                        reading.isEntity ? static_cast<EntityMembers*>(&members) : nullptr);
+    reading.row->read(reader, members);
     reader.skipRest(); // a reader may stop early; extended data stands last
 }
 

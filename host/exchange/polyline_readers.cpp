@@ -4,7 +4,6 @@
 #include <entities/vertex_polyline.h>
 
 #include "extrusion_reader.h"
-#include "group_values.h"
 #include "member_readers.h"
 
 namespace dxf {
@@ -37,22 +36,14 @@ bool takeVertexOf(RecordReader& reader, PolylineMembers& polyline)
     }
 }
 
-/// Makes room for so many vertices, unless the record is too short for them.
-void expectVertices(RecordReader& reader, PolylineMembers& polyline)
-{
-    constexpr std::uint32_t kLeastBytes = 10; // of a vertex
-    const std::int64_t count = looseIntegerOf(reader.group());
-    const std::int64_t most = reader.object().source().length / kLeastBytes;
-    if (count > 0 && count <= most)
-        polyline.points.reserve(static_cast<std::size_t>(count));
-}
+constexpr std::uint32_t kLeastBytesOfVertex = 10;
 
 void readPolyline(RecordReader& reader, PolylineMembers& polyline)
 {
     while (reader.next()) {
         switch (reader.code()) {
         case 90:
-            expectVertices(reader, polyline);
+            polyline.points.reserve(reader.statedCount(kLeastBytesOfVertex));
             break;
         case 38:
             polyline.elevation = reader.real();

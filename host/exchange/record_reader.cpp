@@ -1,6 +1,8 @@
 #include "record_reader.h"
 
 #include <algorithm>
+#include <array>
+#include <iterator>
 #include <limits>
 #include <numbers>
 
@@ -23,10 +25,22 @@ constexpr std::string_view kPartsWithOtherMeanings[] = {
     "AcDbProxyEntity", "AcDbPointCloudEx", "AcDbGeoPositionMarker",
 };
 
-EntityMembers* entityPart(const KdDbObject& object, ObjectMembers& members)
+/// Codes of groups that are not always the reader's.
+constexpr int kGeneralCodes[] = {6,   38,  48,  60,  62,  92,  100, 101, 102, 160,
+                                 284, 310, 370, 380, 390, 420, 430, 440, 1001};
+
+constexpr auto kIsGeneralCode = [] {
+    std::array<bool, 1024> isGeneral{};
+    for (const int code : kGeneralCodes)
+        isGeneral[static_cast<std::size_t>(code)] = true;
+    return isGeneral;
+}();
+
+/// Nearly all groups of most records are told apart by their code alone.
+bool mayBeGeneral(int code)
 {
-    const bool isEntity = object.isKindOf(KdDbEntity::desc());
-    return isEntity ? static_cast<EntityMembers*>(&members) : nullptr;
+    const auto place = static_cast<std::size_t>(code);
+    return place < kIsGeneralCode.size() && kIsGeneralCode[place];
 }
 
 } // namespace
@@ -45,11 +59,11 @@ std::uint32_t colorWordOfRgb(int rgb)
 }
 
 RecordReader::RecordReader(DrawingSource& source, const KdDbObject& object, SourceRange range,
-                           ObjectMembers& members)
+                           ObjectMembers& members, EntityMembers* entity)
     : m_source(source),
       m_object(object),
       m_members(members),
-      m_entity(entityPart(object, members)),
+      m_entity(entity),
       m_groups(source.groups(range)),
       m_readBefore(source.reading)
 {
@@ -75,7 +89,7 @@ bool RecordReader::advance()
 bool RecordReader::next()
 {
     while (advance()) {
-        if (m_subclass == kFreeSubclass)
+        if (!mayBeGeneral(m_group.code) || m_subclass == kFreeSubclass)
             return true;
         switch (m_group.code) {
         case 100:
@@ -250,7 +264,8 @@ void RecordReader::noteState(NumberState state)
 double RecordReader::real()
 {
     double value = 0.0;
-    noteState(realOf(m_group, value));
+    const bool isText = m_group.form == Group::Form::Text;
+    noteState(isText ? parseReal(m_group.text, value) : realOf(m_group, value));
     return value;
 }
 
@@ -276,6 +291,13 @@ std::int16_t RecordReader::shortInteger()
     return static_cast<std::int16_t>(std::clamp<int>(integer(),
                                                      std::numeric_limits<std::int16_t>::min(),
                                                      std::numeric_limits<std::int16_t>::max()));
+}
+
+std::size_t RecordReader::statedCount(std::uint32_t leastBytes) const
+{
+    const std::int64_t count = looseIntegerOf(m_group);
+    const bool fits = count > 0 && count <= m_object.source().length / leastBytes;
+    return fits ? static_cast<std::size_t>(count) : 0;
 }
 
 KdString RecordReader::text()

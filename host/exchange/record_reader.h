@@ -23,9 +23,10 @@ namespace dxf {
 class RecordReader
 {
   public:
-    /// Reads `range` into `members`, the record of `object`.
+    /// Reads `range` of `object` into `members`.
+    /// @param entity  the same record if it is an entity's, else null
     RecordReader(DrawingSource& source, const KdDbObject& object, SourceRange range,
-                 ObjectMembers& members);
+                 ObjectMembers& members, EntityMembers* entity);
     ~RecordReader();
     RecordReader(const RecordReader&) = delete;
     RecordReader& operator=(const RecordReader&) = delete;
@@ -54,6 +55,10 @@ class RecordReader
     int integer();
     std::int16_t shortInteger();
     bool flag() { return integer() != 0; }
+    /// The number as a count of what follows, 0 where the record is too short for so many. For
+    /// making room beforehand: what follows may be more or less.
+    /// @param leastBytes  that each takes in the file
+    std::size_t statedCount(std::uint32_t leastBytes) const;
     KdString text();
     KdDbHandle handle();
     /// The object of the handle; the null id if there is none.
@@ -87,7 +92,7 @@ class RecordReader
     DrawingSource& m_source;
     const KdDbObject& m_object;
     ObjectMembers& m_members;
-    EntityMembers* m_entity; ///< the same record if it is an entity's, else null
+    EntityMembers* m_entity;
     GroupStream m_groups;
     Group m_group;
     KdDbHandle m_readBefore; ///< one object's members may ask for another's

@@ -18,10 +18,22 @@ void takeFlags(int flags, SplineMembers& spline)
     spline.planar = (flags & (kPlanar | kLinear)) != 0;
 }
 
-/// One of the lists. The counts that a drawing states beforehand are not looked at.
+constexpr std::uint32_t kLeastBytesOfReal = 5;
+constexpr std::uint32_t kLeastBytesOfPoint = 10;
+
+/// One of the lists, or how long one will be, which only serves to make room.
 void takeFromList(RecordReader& reader, SplineMembers& spline)
 {
     switch (reader.code()) {
+    case 72:
+        spline.knots.reserve(reader.statedCount(kLeastBytesOfReal));
+        break;
+    case 73:
+        spline.controlPoints.reserve(reader.statedCount(kLeastBytesOfPoint));
+        break;
+    case 74:
+        spline.fitPoints.reserve(reader.statedCount(kLeastBytesOfPoint));
+        break;
     case 10:
         spline.controlPoints.push_back(reader.point());
         break;
@@ -71,8 +83,7 @@ void takeSpline(RecordReader& reader, SplineMembers& spline)
     }
 }
 
-/// Gives back the room that lists of unknown length took beforehand: many drawings are full of
-/// them.
+/// Gives back the room that lists took beforehand: many drawings are full of them.
 void finishSpline(SplineMembers& spline)
 {
     spline.fitCurve();

@@ -181,7 +181,7 @@ class AttributeLines
         if (!record || record->source().length == 0)
             return;
         ObjectMembers ignored;
-        RecordReader groups(reader.source(), *record, record->source(), ignored);
+        RecordReader groups(reader.source(), *record, record->source(), ignored, nullptr);
         bool isInText = false;
         while (groups.next()) {
             if (isInText)

@@ -264,7 +264,7 @@ TEST(AttributeDefinition, HasOneLineWhereItSaysSo)
 }
 
 /// An attribute definition that is extended by a dictionary with one record.
-ReadDrawing readExtended(const Groups& record)
+ReadDrawing readExtended(const Groups& record, const Groups& otherEntity = {})
 {
     const Groups entity = joined({{0, "ATTDEF"},
                                   {5, "A1"},
@@ -278,7 +278,7 @@ ReadDrawing readExtended(const Groups& record)
     const Groups objects{{0, "DICTIONARY"},       {5, "C"},          {100, "AcDbDictionary"},
                          {0, "DICTIONARY"},       {5, "B1"},         {330, "A1"},
                          {100, "AcDbDictionary"}, {3, "ACAD_MLATT"}, {360, "B2"}};
-    return readGroups(drawing({header("AC1021"), section("ENTITIES", entity),
+    return readGroups(drawing({header("AC1021"), section("ENTITIES", joined(entity, otherEntity)),
                                section("OBJECTS", joined(objects, record))}));
 }
 
@@ -307,6 +307,14 @@ TEST(AttributeDefinition, HasOneLineWhereTheRecordIsMissingOrHoldsNone)
     const ReadDrawing empty =
         readExtended({{0, "XRECORD"}, {5, "B2"}, {100, "AcDbXrecord"}, {70, "4"}});
     EXPECT_FALSE(empty.entity<KdDbAttributeDefinition>(0)->isMTextAttributeDefinition());
+}
+
+TEST(AttributeDefinition, HasOneLineWhereAnEntityStandsForTheRecord)
+{
+    const Groups line{{0, "LINE"}, {5, "B2"}, {100, "AcDbEntity"}, {8, "0"},
+                      {62, "3"},   {48, "2"}, {100, "AcDbLine"},   {1, "no text"}};
+    const ReadDrawing drawn = readExtended({}, line);
+    EXPECT_FALSE(drawn.entity<KdDbAttributeDefinition>(0)->isMTextAttributeDefinition());
 }
 
 TEST(Attribute, HasSeveralLinesToo)
