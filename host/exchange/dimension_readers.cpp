@@ -230,15 +230,16 @@ void readRadialLarge(RecordReader& reader, RadialDimensionLargeMembers& dimensio
 }
 
 constexpr MemberReaderRow kRows[] = {
-    memberReader<KdDbAlignedDimension, AlignedDimensionMembers, readAligned>(),
-    memberReader<KdDbRotatedDimension, RotatedDimensionMembers, readRotated>(),
-    memberReader<KdDbOrdinateDimension, OrdinateDimensionMembers, readOrdinate>(),
-    memberReader<KdDb2LineAngularDimension, TwoLineAngularDimensionMembers, readTwoLine>(),
-    memberReader<KdDb3PointAngularDimension, ThreePointAngularDimensionMembers, readThreePoint>(),
-    memberReader<KdDbArcDimension, ArcDimensionMembers, readArc>(),
-    memberReader<KdDbDiametricDimension, DiametricDimensionMembers, readDiametric>(),
-    memberReader<KdDbRadialDimension, RadialDimensionMembers, readRadial>(),
-    memberReader<KdDbRadialDimensionLarge, RadialDimensionLargeMembers, readRadialLarge>(),
+    beside(memberReader<KdDbAlignedDimension, AlignedDimensionMembers, readAligned>()),
+    beside(memberReader<KdDbRotatedDimension, RotatedDimensionMembers, readRotated>()),
+    beside(memberReader<KdDbOrdinateDimension, OrdinateDimensionMembers, readOrdinate>()),
+    beside(memberReader<KdDb2LineAngularDimension, TwoLineAngularDimensionMembers, readTwoLine>()),
+    beside(memberReader<KdDb3PointAngularDimension, ThreePointAngularDimensionMembers,
+                        readThreePoint>()),
+    beside(memberReader<KdDbArcDimension, ArcDimensionMembers, readArc>()),
+    beside(memberReader<KdDbDiametricDimension, DiametricDimensionMembers, readDiametric>()),
+    beside(memberReader<KdDbRadialDimension, RadialDimensionMembers, readRadial>()),
+    beside(memberReader<KdDbRadialDimensionLarge, RadialDimensionLargeMembers, readRadialLarge>()),
 };
 
 } // namespace

@@ -254,9 +254,14 @@ const resbuf* valueOfKey(const KdDbObject& object, const wchar_t* application, s
     return nullptr;
 }
 
-KdDbObjectId standardStyle(KdDbDatabase& database)
+/// The standard style, made where it is missing; the null id if that is left to another source.
+KdDbObjectId standardStyle(DrawingSource& source)
 {
-    return database.findOrAddRecord<KdDbDimStyleTable>(L"Standard");
+    KdDbObjectId style;
+    const auto& styles = source.database.table<KdDbDimStyleTable>();
+    if (styles.getIdAt(L"Standard", style) == eOk || source.leave())
+        return style;
+    return source.database.findOrAddRecord<KdDbDimStyleTable>(L"Standard");
 }
 
 } // namespace
@@ -296,7 +301,7 @@ bool takeDimensionStyle(RecordReader& reader, DimensionStyleUse& use)
 void finishDimensionStyleUse(RecordReader& reader, DimensionStyleUse& use)
 {
     if (use.style.isNull())
-        use.style = standardStyle(reader.source().database);
+        use.style = standardStyle(reader.source());
     takeApplicationVariables(reader, use.overrides);
     takeOverrides(reader, use.overrides);
 }

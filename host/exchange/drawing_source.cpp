@@ -6,7 +6,7 @@ namespace dxf {
 
 DrawingSource::DrawingSource(Beside beside)
     : database(beside.other.database),
-      isBeside(true),
+      other(&beside.other),
       form(beside.other.form),
       version(beside.other.version),
       decoder(beside.other.decoder.another())
@@ -41,6 +41,13 @@ KdDbObjectId DrawingSource::firstViewport(KdDbObjectId block)
         }
     }
     return place->second;
+}
+
+const std::vector<KdDbObjectId>* DrawingSource::columnsOf(KdDbObjectId text) const
+{
+    const auto& all = other ? other->textColumns : textColumns;
+    const auto columns = all.find(text);
+    return columns != all.end() ? &columns->second : nullptr;
 }
 
 } // namespace dxf

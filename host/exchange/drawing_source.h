@@ -56,7 +56,7 @@ struct DrawingSource
     explicit DrawingSource(KdDbDatabase& owner) : database(owner) {}
     /// A source over the bytes of `other`, which must outlive it, for reading members in a thread
     /// of its own; see `mayBeReadBeside`. It never changes the database. An object of which it
-    /// notes a finding is to be read again by `other`.
+    /// notes a finding, or that it leaves, is to be read again by `other`.
     struct Beside
     {
         const DrawingSource& other;
@@ -66,22 +66,32 @@ struct DrawingSource
     KdDbObjectId linetype(const Group& name)
     {
         return linetypes.find(database, decoder, findings, DrawingFinding::UndefinedLinetype, name,
-                              reading, !isBeside);
+                              reading, !isBeside());
     }
     KdDbObjectId textStyle(const Group& name)
     {
         return textStyles.find(database, decoder, findings, DrawingFinding::UndefinedStyle, name,
-                               reading, !isBeside);
+                               reading, !isBeside());
     }
     KdDbObjectId dimensionStyle(const Group& name)
     {
         return dimensionStyles.find(database, decoder, findings, DrawingFinding::UndefinedStyle,
-                                    name, reading, !isBeside);
+                                    name, reading, !isBeside());
+    }
+    bool isBeside() const { return other != nullptr; }
+    /// For readers about to change the database or to look into other objects: true if this source
+    /// may not, because it only reads along. The reader then need not go on with the object.
+    bool leave()
+    {
+        hasLeft = isBeside();
+        return hasLeft;
     }
     /// The null id if there is no such block, which is noted.
     KdDbObjectId block(const Group& name);
     /// The viewport that comes first in a block.
     KdDbObjectId firstViewport(KdDbObjectId block);
+    /// The other columns of a text, where they are entities of their own; else null.
+    const std::vector<KdDbObjectId>* columnsOf(KdDbObjectId text) const;
     /// The groups of a record. What is wrong with their codes was noted by the index pass.
     GroupStream groups(SourceRange range) const
     {
@@ -89,7 +99,8 @@ struct DrawingSource
     }
 
     KdDbDatabase& database;
-    const bool isBeside = false; ///< it only reads along for another source
+    const DrawingSource* const other = nullptr; ///< the one for which it only reads along
+    bool hasLeft = false;                       ///< an object, see `leave`
     FileBytes bytes;
     FileForm form;
     KdDbHandle reading = 0; ///< of the object whose members are being read
@@ -100,10 +111,11 @@ struct DrawingSource
     NamedRecords<KdDbLinetypeTable> linetypes;
     NamedRecords<KdDbTextStyleTable> textStyles;
     NamedRecords<KdDbDimStyleTable> dimensionStyles;
+    KdDbObjectId standardStyle; ///< of texts, once it was asked for
     std::unordered_map<std::string_view, KdDbObjectId> blocks;
     std::unordered_map<KdDbObjectId, KdDbObjectId> firstViewports;
     BodyDataIndex bodies;
-    /// By the first column of a text the others, where they are entities of their own.
+    /// By the first column of a text the others; of the source that does not only read along.
     std::unordered_map<KdDbObjectId, std::vector<KdDbObjectId>> textColumns;
 };
 

@@ -26,7 +26,8 @@ constexpr MemberReaderRow memberReader()
 }
 
 /// The row of a function that changes nothing but its record and asks no other object for anything
-/// but its class, so that it may run beside others of its kind.
+/// but its class, so that it may run beside others of its kind. Where it can't do without, it asks
+/// `DrawingSource::leave` first.
 constexpr MemberReaderRow beside(MemberReaderRow row)
 {
     row.mayBeBeside = true;

@@ -102,11 +102,10 @@ void takeOldColumns(const KdDbObject& object, MTextData& text)
 /// Appends the letters of columns that are entities of their own.
 void takeColumnTexts(RecordReader& reader, MTextData& text)
 {
-    const auto& all = reader.source().textColumns;
-    const auto columns = all.find(reader.object().objectId());
-    if (columns == all.end())
+    const auto* columns = reader.source().columnsOf(reader.object().objectId());
+    if (!columns || reader.source().leave())
         return;
-    for (const KdDbObjectId id : columns->second) {
+    for (const KdDbObjectId id : *columns) {
         KdDbMText* column = nullptr;
         if (kddbOpenObject(column, id, KdDb::kForRead, true) != eOk)
             continue;
@@ -133,15 +132,18 @@ void readMText(RecordReader& reader, MTextMembers& text)
 }
 
 constexpr MemberReaderRow kRows[] = {
-    memberReader<KdDbMText, MTextMembers, readMText>(),
+    beside(memberReader<KdDbMText, MTextMembers, readMText>()),
 };
 
 } // namespace
 
 KdDbObjectId standardTextStyle(DrawingSource& source)
 {
-    KdDbObjectId style;
-    source.database.table<KdDbTextStyleTable>().getIdAt(L"Standard", style);
+    KdDbObjectId& style = source.standardStyle; // many texts name none
+    if (style.isNull() || style.isErased()) {
+        style = {};
+        source.database.table<KdDbTextStyleTable>().getIdAt(L"Standard", style);
+    }
     return style;
 }
 

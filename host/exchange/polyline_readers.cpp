@@ -188,9 +188,9 @@ void read2dVertex(RecordReader& reader, Vertex2dMembers& vertex)
 
 constexpr MemberReaderRow kRows[] = {
     beside(memberReader<KdDbPolyline, PolylineMembers, readPolyline>()),
-    memberReader<KdDb2dPolyline, Polyline2dMembers, read2dPolyline>(),
-    memberReader<KdDb3dPolyline, Polyline3dMembers, read3dPolyline>(),
-    memberReader<KdDbVertex, VertexMembers, readVertex>(),
+    beside(memberReader<KdDb2dPolyline, Polyline2dMembers, read2dPolyline>()),
+    beside(memberReader<KdDb3dPolyline, Polyline3dMembers, read3dPolyline>()),
+    beside(memberReader<KdDbVertex, VertexMembers, readVertex>()),
     memberReader<KdDb2dVertex, Vertex2dMembers, read2dVertex>(),
 };
 

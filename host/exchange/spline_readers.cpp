@@ -84,8 +84,11 @@ void takeSpline(RecordReader& reader, SplineMembers& spline)
 }
 
 /// Gives back the room that lists took beforehand: many drawings are full of them.
-void finishSpline(SplineMembers& spline)
+void finishSpline(RecordReader& reader, SplineMembers& spline)
 {
+    const bool hasToBeFitted = spline.controlPoints.empty() && !spline.fitPoints.empty();
+    if (hasToBeFitted && reader.source().leave()) // the kernel is asked by one thread alone
+        return;
     spline.fitCurve();
     spline.controlPoints.shrink_to_fit();
     spline.fitPoints.shrink_to_fit();
@@ -97,7 +100,7 @@ void readSpline(RecordReader& reader, SplineMembers& spline)
 {
     while (reader.next())
         takeSpline(reader, spline);
-    finishSpline(spline);
+    finishSpline(reader, spline);
 }
 
 /// Drawings number the constraints in another way; what is none of the three stays as it is.
@@ -155,12 +158,12 @@ void readHelix(RecordReader& reader, HelixMembers& helix)
         else
             takeSpline(reader, helix);
     }
-    finishSpline(helix);
+    finishSpline(reader, helix);
 }
 
 constexpr MemberReaderRow kRows[] = {
-    memberReader<KdDbSpline, SplineMembers, readSpline>(),
-    memberReader<KdDbHelix, HelixMembers, readHelix>(),
+    beside(memberReader<KdDbSpline, SplineMembers, readSpline>()),
+    beside(memberReader<KdDbHelix, HelixMembers, readHelix>()),
 };
 
 } // namespace

@@ -176,6 +176,8 @@ class AttributeLines
 
     void takeExtension(RecordReader& reader)
     {
+        if (reader.object().extensionDictionary().isNull() || reader.source().leave())
+            return;
         const KdDbObjectId id = kddbExtensionEntry(reader.object(), L"ACAD_MLATT");
         const OpenForRead<KdDbObject> record(id);
         if (!record || record->source().length == 0)
@@ -259,9 +261,10 @@ void readShape(RecordReader& reader, ShapeMembers& shape)
 
 constexpr MemberReaderRow kRows[] = {
     beside(memberReader<KdDbText, TextMembers, readText>()),
-    memberReader<KdDbAttribute, AttributeMembers, readAttribute>(),
-    memberReader<KdDbAttributeDefinition, AttributeDefinitionMembers, readAttributeDefinition>(),
-    memberReader<KdDbShape, ShapeMembers, readShape>(),
+    beside(memberReader<KdDbAttribute, AttributeMembers, readAttribute>()),
+    beside(memberReader<KdDbAttributeDefinition, AttributeDefinitionMembers,
+                        readAttributeDefinition>()),
+    beside(memberReader<KdDbShape, ShapeMembers, readShape>()),
 };
 
 } // namespace

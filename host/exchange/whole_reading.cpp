@@ -2,8 +2,10 @@
 
 #include <algorithm>
 #include <atomic>
+#include <deque>
 #include <exception>
 #include <thread>
+#include <vector>
 
 #include <sched.h>
 
@@ -15,7 +17,7 @@ namespace {
 using Progress = std::function<bool(double)>;
 
 /// Most objects are read by several threads, each with a source and storage of its own. Those whose
-/// readers look at other objects, and those with something to be noted, are left for later.
+/// readers look into other objects, and those with something to be noted, are left for later.
 class SharedReading
 {
   public:
@@ -24,42 +26,50 @@ class SharedReading
     {
     }
 
-    /// False if cancelled.
-    bool run(unsigned threads)
+    /// False if cancelled; otherwise `left` receives the places of the objects that are left.
+    bool run(unsigned threads, std::vector<std::size_t>& left)
     {
         KdDbObjectId none;
         m_source.database.getObjectId(none, 0); // sorts the handles, once and before all others ask
-        std::vector<std::exception_ptr> failures(threads);
+        std::deque<Worker> workers;
+        for (unsigned i = 0; i < threads; ++i)
+            workers.push_back({KdDbDatabaseBuilder(m_source.database).addArena(), {}, {}});
         {
             std::vector<std::jthread> helpers;
-            for (unsigned i = 1; i < threads; ++i) {
-                KdDbArena& arena = KdDbDatabaseBuilder(m_source.database).addArena();
-                helpers.emplace_back(
-                    [this, &arena, &failure = failures[i]] { tryWork(arena, {}, failure); });
-            }
-            tryWork(KdDbDatabaseBuilder(m_source.database).addArena(), m_progress, failures[0]);
+            for (unsigned i = 1; i < threads; ++i)
+                helpers.emplace_back([this, &worker = workers[i]] { tryWork(worker, {}); });
+            tryWork(workers[0], m_progress);
         }
-        for (const std::exception_ptr& failure : failures) {
-            if (failure)
-                std::rethrow_exception(failure);
+        for (const Worker& worker : workers) {
+            if (worker.failure)
+                std::rethrow_exception(worker.failure);
+            left.insert(left.end(), worker.left.begin(), worker.left.end());
         }
+        std::ranges::sort(left);
         return !m_isCancelled;
     }
 
   private:
     static constexpr std::size_t kObjectsAtOnce = 1024;
 
-    void tryWork(KdDbArena& arena, const Progress& progress, std::exception_ptr& failure)
+    struct Worker
+    {
+        KdDbArena& arena;
+        std::vector<std::size_t> left; ///< places of objects
+        std::exception_ptr failure;
+    };
+
+    void tryWork(Worker& worker, const Progress& progress)
     {
         try {
-            work(arena, progress);
+            work(worker, progress);
         } catch (...) {
-            failure = std::current_exception();
+            worker.failure = std::current_exception();
             m_next = m_objects.size(); // the others need not go on
         }
     }
 
-    void work(KdDbArena& arena, const Progress& progress)
+    void work(Worker& worker, const Progress& progress)
     {
         DrawingSource own(DrawingSource::Beside{m_source});
         for (;;) {
@@ -73,20 +83,27 @@ class SharedReading
                 return;
             }
             const std::size_t end = std::min(begin + kObjectsAtOnce, m_objects.size());
-            for (std::size_t i = begin; i < end; ++i)
-                read(own, arena, *m_objects[i]);
+            for (std::size_t i = begin; i < end; ++i) {
+                if (!read(own, worker.arena, *m_objects[i]))
+                    worker.left.push_back(i);
+            }
         }
     }
 
-    void read(DrawingSource& own, KdDbArena& arena, KdDbObject& object)
+    /// False if the object is left.
+    bool read(DrawingSource& own, KdDbArena& arena, KdDbObject& object)
     {
         if (object.source().length == 0 || !mayBeReadBeside(object))
-            return;
+            return false;
         const std::size_t findings = own.findings.total();
+        own.hasLeft = false;
+        bool isKept = false;
         KdDbDatabaseBuilder(m_source.database).fill(object, arena, [&](ObjectMembers& members) {
             readMembers(own, object, object.source(), members);
-            return own.findings.total() == findings;
+            isKept = own.findings.total() == findings && !own.hasLeft;
+            return isKept;
         });
+        return isKept;
     }
 
     DrawingSource& m_source;
@@ -96,28 +113,71 @@ class SharedReading
     bool m_isCancelled = false;
 };
 
-/// Reads what is left, in the order of the objects. Reports by the bytes that were read and by the
-/// number of objects, since both take their time.
-bool readRest(const DrawingSource& source, const Progress& progress)
+/// Reads objects one by one. Reports by the bytes that were read and by the number of objects,
+/// since both take their time.
+class ReadingInOrder
 {
-    constexpr std::size_t kBytesBetweenReports = 1u << 20;
-    constexpr std::size_t kObjectCost = 64; // counts as so many bytes
-    const std::vector<KdDbObject*>& objects = source.database.objects();
-    const std::size_t all = source.form.bytes.size() + kObjectCost * objects.size();
-    std::size_t done = 0;
-    std::size_t nextReport = 0;
-    // Reading a member may add a record that was only referred to, so the end moves.
-    for (std::size_t i = 0; i < objects.size(); ++i) {
-        if (progress && done >= nextReport) {
-            if (!progress(static_cast<double>(std::min(done, all)) / static_cast<double>(all)))
+  public:
+    ReadingInOrder(std::size_t bytes, std::size_t objects, const Progress& progress)
+        : m_all(bytes + kObjectCost * objects), m_progress(progress)
+    {
+    }
+
+    /// False if cancelled.
+    bool read(const KdDbObject& object)
+    {
+        if (m_progress && m_done >= m_nextReport) {
+            const std::size_t done = std::min(m_done, m_all); // more may come up than was known
+            if (!m_progress(static_cast<double>(done) / static_cast<double>(m_all)))
                 return false;
-            nextReport = done + kBytesBetweenReports;
+            m_nextReport = m_done + kBytesBetweenReports;
         }
-        const KdDbObject& object = *objects[i];
         object.extensionDictionary(); // any member brings all
-        done += object.source().length + kObjectCost;
+        m_done += object.source().length + kObjectCost;
+        return true;
+    }
+
+  private:
+    static constexpr std::size_t kBytesBetweenReports = 1u << 20;
+    static constexpr std::size_t kObjectCost = 64; ///< counts as so many bytes
+
+    std::size_t m_all;
+    const Progress& m_progress;
+    std::size_t m_done = 0;
+    std::size_t m_nextReport = 0;
+};
+
+/// Reads the objects from the place `begin` on. Reading a member may add a record that was only
+/// referred to, so the end moves.
+bool readFrom(std::size_t begin, const std::vector<KdDbObject*>& objects, ReadingInOrder& reading)
+{
+    for (std::size_t i = begin; i < objects.size(); ++i) {
+        if (!reading.read(*objects[i]))
+            return false;
     }
     return true;
+}
+
+bool readAll(const DrawingSource& source, const Progress& progress)
+{
+    const std::vector<KdDbObject*>& objects = source.database.objects();
+    ReadingInOrder reading(source.form.bytes.size(), objects.size(), progress);
+    return readFrom(0, objects, reading);
+}
+
+/// Reads the objects at those places, and what is added meanwhile.
+bool readLeft(const DrawingSource& source, const std::vector<std::size_t>& left,
+              const Progress& progress)
+{
+    const std::vector<KdDbObject*>& objects = source.database.objects();
+    const std::size_t known = objects.size();
+    std::size_t bytes = 0;
+    for (const std::size_t place : left)
+        bytes += objects[place]->source().length;
+    ReadingInOrder reading(bytes, left.size(), progress);
+    return std::ranges::all_of(left,
+                               [&](std::size_t place) { return reading.read(*objects[place]); }) &&
+           readFrom(known, objects, reading);
 }
 
 } // namespace
@@ -137,14 +197,15 @@ bool readAllMembers(DrawingSource& source, const Progress& progress, unsigned th
     constexpr double kShared = 0.8; // of the work, as far as is known beforehand
     source.decoder.decide();        // at the same time with any number of threads
     if (threads < 2)
-        return readRest(source, progress);
+        return readAll(source, progress);
     Progress sharing;
     Progress rest;
     if (progress) {
         sharing = [&progress](double part) { return progress(kShared * part); };
         rest = [&progress](double part) { return progress(kShared + (1.0 - kShared) * part); };
     }
-    return SharedReading(source, sharing).run(threads) && readRest(source, rest);
+    std::vector<std::size_t> left;
+    return SharedReading(source, sharing).run(threads, left) && readLeft(source, left, rest);
 }
 
 } // namespace dxf

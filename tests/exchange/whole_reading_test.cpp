@@ -28,21 +28,68 @@ std::ostream& operator<<(std::ostream& stream, const KdGePoint3d& point)
     return stream << std::hexfloat << point.x << ',' << point.y << ',' << point.z << ' ';
 }
 
+void describeText(std::ostream& stream, const KdDbMText& text)
+{
+    KdString contents;
+    text.contents(contents);
+    stream << contents << text.textStyle().handle() << ' ' << std::hexfloat << text.width() << ' ';
+}
+
+void describeLines(std::ostream& stream, const KdDbMText* lines)
+{
+    if (lines)
+        describeText(stream, *lines);
+}
+
+void describeAttribute(std::ostream& stream, const KdDbEntity& entity)
+{
+    if (const auto* attribute = dynamic_cast<const KdDbAttribute*>(&entity)) {
+        stream << attribute->tag() << attribute->lockPositionInBlock() << ' ';
+        describeLines(stream, attribute->getMTextAttributeConst());
+    }
+    if (const auto* definition = dynamic_cast<const KdDbAttributeDefinition*>(&entity)) {
+        stream << definition->tag() << definition->prompt() << definition->lockPositionInBlock()
+               << ' ';
+        describeLines(stream, definition->getMTextAttributeDefinitionConst());
+    }
+}
+
+void describeSpline(std::ostream& stream, const KdDbSpline& spline)
+{
+    const KdDbNurbsData data = spline.getNurbsData();
+    stream << data.degree << ' ' << std::hexfloat;
+    for (const double knot : data.knots)
+        stream << knot << ' ';
+    for (const KdGePoint3d& point : data.controlPoints)
+        stream << point;
+    for (const double weight : data.weights)
+        stream << weight << ' ';
+}
+
+void describeDimension(std::ostream& stream, const KdDbDimension& dimension)
+{
+    double measured = 0.0;
+    dimension.measurement(measured);
+    stream << dimension.dimensionText() << dimension.dimBlockId().handle() << ' '
+           << dimension.dimensionStyle().handle() << ' ' << dimension.dimscale() << ' '
+           << dimension.dimpost() << std::hexfloat << measured << dimension.textPosition();
+}
+
 void describeKind(std::ostream& stream, const KdDbEntity& entity)
 {
     if (const auto* text = dynamic_cast<const KdDbText*>(&entity))
         stream << text->textString() << text->height() << ' ' << text->textStyle().handle();
-    if (const auto* text = dynamic_cast<const KdDbMText*>(&entity)) {
-        KdString contents;
-        text->contents(contents);
-        stream << contents;
-    }
+    if (const auto* text = dynamic_cast<const KdDbMText*>(&entity))
+        describeText(stream, *text);
+    describeAttribute(stream, entity);
+    if (const auto* spline = dynamic_cast<const KdDbSpline*>(&entity))
+        describeSpline(stream, *spline);
     if (const auto* reference = dynamic_cast<const KdDbBlockReference*>(&entity))
         stream << reference->blockTableRecord().handle() << ' ' << reference->rotation();
     if (const auto* line = dynamic_cast<const KdDbLine*>(&entity))
         stream << line->thickness() << ' ' << line->normal().x << ' ' << line->normal().z;
     if (const auto* dimension = dynamic_cast<const KdDbDimension*>(&entity))
-        stream << dimension->dimensionText() << dimension->dimBlockId().handle();
+        describeDimension(stream, *dimension);
     if (const auto* polyline = dynamic_cast<const KdDbPolyline*>(&entity)) {
         double bulge = 0.0;
         for (unsigned i = 0; polyline->getBulgeAt(i, bulge) == eOk; ++i)
@@ -164,6 +211,179 @@ std::string mixedDrawing(std::size_t entities)
     for (std::size_t i = 0; i < entities; ++i)
         text += kinds[i * 7 % kinds.size()];
     return text + "0\nENDSEC\n0\nEOF\n";
+}
+
+Groups operator+(Groups a, const Groups& b)
+{
+    a.insert(a.end(), b.begin(), b.end());
+    return a;
+}
+
+/// Handles of an entity, and of what belongs to it.
+class Handles
+{
+  public:
+    explicit Handles(std::size_t number) : m_first(0x1000 + 16 * number) {}
+    std::string operator()(unsigned which) const
+    {
+        std::ostringstream stream;
+        stream << std::hex << m_first + which;
+        return stream.str();
+    }
+
+  private:
+    std::size_t m_first;
+};
+
+Groups entity(const char* name, const Handles& handles, const Groups& rest)
+{
+    return Groups{{0, name}, {5, handles(0)}, {100, "AcDbEntity"}, {8, "A"}} + rest;
+}
+
+Groups definition(const Handles& handles, const Groups& rest)
+{
+    return entity("ATTDEF", handles,
+                  Groups{{100, "AcDbText"}, {10, "1.5"}, {20, "2"}, {40, "0.25"}, {1, "one"}} +
+                      Groups{{100, "AcDbAttributeDefinition"}, {3, "Ask"}, {2, "TAG"}} + rest);
+}
+
+Groups extended(const Handles& handles)
+{
+    return entity("ATTDEF", handles,
+                  {{102, "{ACAD_XDICTIONARY"},
+                   {360, handles(1)},
+                   {102, "}"},
+                   {100, "AcDbText"},
+                   {1, "one"},
+                   {100, "AcDbAttributeDefinition"},
+                   {2, "TAG"}});
+}
+
+/// A dictionary that extends a definition, and its only entry.
+Groups extension(const Handles& handles, const std::string& entry)
+{
+    return {{0, "DICTIONARY"},       {5, handles(1)},   {330, handles(0)},
+            {100, "AcDbDictionary"}, {3, "ACAD_MLATT"}, {360, entry}};
+}
+
+Groups linesOf(const Handles& handles)
+{
+    return {{0, "XRECORD"}, {5, handles(2)}, {100, "AcDbXrecord"}, {1, "Embedded Object"},
+            {10, "1"},      {20, "2"},       {41, "12.5"},         {1, "several\\Plines"}};
+}
+
+const Groups kPoints = {{13, "1"}, {23, "2"}, {14, "7.5"}, {24, "2"}, {10, "7.5"}, {20, "4"}};
+
+Groups dimension(const Handles& handles, const Groups& head, const Groups& tail)
+{
+    return entity("DIMENSION", handles,
+                  Groups{{100, "AcDbDimension"}, {2, "DOOR"}, {70, "0"}} + head +
+                      Groups{{100, "AcDbAlignedDimension"}} + kPoints +
+                      Groups{{100, "AcDbRotatedDimension"}} + tail);
+}
+
+/// What most of a kind do not need: to look into other objects, or to have one made.
+class KindsThatMayLookElsewhere
+{
+  public:
+    explicit KindsThatMayLookElsewhere(std::size_t entities)
+    {
+        for (std::size_t i = 0; i < entities; ++i)
+            add(i % 12, Handles(i), Handles(i + 1));
+    }
+
+    std::string text() const
+    {
+        return asText(drawing(
+            {header("AC1021"), section("ENTITIES", m_entities), section("OBJECTS", m_objects)}));
+    }
+
+  private:
+    void add(std::size_t kind, const Handles& own, const Handles& next)
+    {
+        m_entities = std::move(m_entities) + made(kind, own, next);
+        if (kind == 1)
+            m_objects = std::move(m_objects) + extension(own, own(2)) + linesOf(own);
+        if (kind == 2) // names an entity where a record should be
+            m_objects = std::move(m_objects) + extension(own, next(0));
+    }
+
+    static Groups made(std::size_t kind, const Handles& own, const Handles& next)
+    {
+        switch (kind) {
+        case 0:
+            return definition(own, {{1001, "AcDbAttr"}, {1070, "0"}, {1070, "1"}});
+        case 1:
+        case 2:
+            return extended(own);
+        case 3:
+            return entity("LINE", own, {{62, "3"}, {48, "2.5"}, {10, "1"}, {20, "2"}});
+        case 4:
+            return dimension(own, {{3, "STANDARD"}}, {});
+        case 5: // the style is missing and is made, which is no finding
+            return dimension(own, {}, {{50, "90"}});
+        case 6:
+            return dimension(own, {{3, "NOT THERE"}, {1, "about <>"}}, {});
+        case 7:
+            return dimension(own, {},
+                             {{1001, "ACAD"},
+                              {1000, "DSTYLE"},
+                              {1002, "{"},
+                              {1070, "40"},
+                              {1040, "2.5"},
+                              {1070, "3"},
+                              {1000, "<>mm"},
+                              {1002, "}"}});
+        case 8: // with a column behind it
+            return entity("MTEXT", own,
+                          {{100, "AcDbMText"},
+                           {1, "One\\P"},
+                           {1001, "ACAD"},
+                           {1000, "ACAD_MTEXT_COLUMNS_BEGIN"},
+                           {1070, "47"},
+                           {1070, "2"},
+                           {1005, next(0)},
+                           {1000, "ACAD_MTEXT_COLUMNS_END"}});
+        case 9:
+            return entity("MTEXT", own, {{100, "AcDbMText"}, {41, "30"}, {1, "Two"}});
+        case 10: // with its control points
+            return entity("SPLINE", own,
+                          {{100, "AcDbSpline"},
+                           {70, "8"},
+                           {71, "1"},
+                           {72, "4"},
+                           {73, "2"},
+                           {40, "0"},
+                           {40, "0"},
+                           {40, "1"},
+                           {40, "1"},
+                           {10, "1"},
+                           {20, "2"},
+                           {10, "3.25"},
+                           {20, "4"}});
+        default: // with the points that it goes through alone
+            return entity("SPLINE", own,
+                          {{100, "AcDbSpline"},
+                           {70, "8"},
+                           {71, "3"},
+                           {74, "3"},
+                           {11, "0"},
+                           {21, "0"},
+                           {11, "4"},
+                           {21, "1"},
+                           {11, "6"},
+                           {21, "5"}});
+        }
+    }
+
+    Groups m_entities;
+    Groups m_objects;
+};
+
+TEST(WholeReading, GivesTheSameForKindsThatMayLookElsewhere)
+{
+    const TemporaryFile file(KindsThatMayLookElsewhere(4000).text());
+    expectTheSame(file.path());
 }
 
 TEST(WholeReading, GivesTheSameInAnyNumberOfThreads)
