@@ -95,6 +95,15 @@ TEST_F(DynamicProperties, OfAnUnchangedReferenceAreThoseOfTheBlock)
                    {L"Custom:Knob Y", "5001 7"}});
 }
 
+TEST_F(DynamicProperties, OfConstraintsAreTheirDistanceOrAngle)
+{
+    const auto value = [](auto& members) { members.value = 1.25; };
+    addParameter<KdDbBlockLinearConstraintParameter>(11, L"Clear", value);
+    addParameter<KdDbBlockAngularConstraintParameter>(12, L"Tilt", value);
+    expectAnswers(provider, reference,
+                  {{L"Custom:Clear", "5001 1.25"}, {L"Custom:Tilt", "5004 1.25"}});
+}
+
 TEST_F(DynamicProperties, AreWhatTheReferenceStores)
 {
     store(reference, L"1", {{10, 0}, {10, 7.5}});

@@ -107,6 +107,17 @@ TEST_P(EachEntry, TakesASelectionSetWithoutWritingToIt)
 INSTANTIATE_TEST_SUITE_P(, EachEntry, testing::ValuesIn(kEntries),
                          [](const auto& row) { return row.param.name; });
 
+TEST_F(Entry, WithTheDialogNeedsAProgramWithWindows)
+{
+    KdDbEntity* const line = add(model());
+    select({line->objectId()});
+    selectCmd();
+    EXPECT_THAT(printed, ElementsAre(L"\nThe quick-select dialog needs a program with windows."));
+    EXPECT_THAT(selection(), ElementsAre(line->objectId()));
+    EXPECT_THAT(noted.current, testing::IsEmpty());
+    EXPECT_TRUE(textsAreAsBefore());
+}
+
 TEST_F(Entry, OfARunWithoutTheDialogRestoresTheTextsToo)
 {
     quick_select::Result result{};

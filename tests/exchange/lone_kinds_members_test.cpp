@@ -429,6 +429,27 @@ TEST(PointCloud, IsReadWithItsFile)
                 });
 }
 
+TEST(GlobeOfDrawing, IsReadWithItsMesh)
+{
+    const Groups globe = joined({{{0, "GEODATA"}, {5, "50"}, {100, "AcDbGeoData"}},
+                                 point(10, "1", "2", "3"),
+                                 point(11, "11.5", "48.25", "500"),
+                                 {{40, "0.001"}, {41, "0.01"}},
+                                 {{12, "0"}, {22, "2"}},
+                                 {{13, "0"}, {23, "0"}, {14, "10"}, {24, "40"}},
+                                 {{13, "4"}, {23, "0"}, {14, "12"}, {24, "40"}},
+                                 {{13, "0"}, {23, "4"}, {14, "10"}, {24, "44"}},
+                                 {{97, "0"}, {98, "1"}, {99, "2"}}});
+    inBothForms({section("OBJECTS", globe)}, [](const ReadDrawing& drawn) {
+        const auto* read = dynamic_cast<const KdDbGeoData*>(drawn.object(0x50));
+        ASSERT_NE(read, nullptr);
+        const KdGePoint3d place = read->toGlobe({1, 1, 103});
+        EXPECT_NEAR(place.x, 10.5, 1e-12) << "by the mesh, which is more exact";
+        EXPECT_NEAR(place.y, 41.0, 1e-12);
+        EXPECT_NEAR(place.z, 501.0, 1e-12);
+    });
+}
+
 TEST(Marker, IsReadWithItsText)
 {
     const Groups marker =
