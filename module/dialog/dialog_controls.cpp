@@ -60,7 +60,8 @@ bool CQSelectDialog::OnInitDialog()
     keepRoom(getWidgetsFromOrignal(kValueLabel, 0));
     showControl(kValueEdit, false);
     showControl(kShowListValues, false);
-    layout()->activate();
+    if (QLayout* arrangement = layout())
+        arrangement->activate();
     placeSelectButton();
     makeValueCombos();
     const bool initialised = CKdUiDialog::OnInitDialog();
