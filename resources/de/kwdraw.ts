@@ -794,6 +794,10 @@ Zeigt Zeichnungen und wählt ihre Objekte nach Eigenschaften aus.</translation>
             <numerusform>%n Werte</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Other</source>
+        <translation>Weitere</translation>
+    </message>
 </context>
 <context>
     <name>QDialog</name>

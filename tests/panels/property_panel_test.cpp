@@ -12,6 +12,7 @@
 #include <QToolButton>
 #include <QTreeView>
 
+#include <kwdraw/panels/property_rows.h>
 #include <kwdraw/panels/select_similar.h>
 
 #include "support.h"
@@ -313,6 +314,19 @@ TEST_F(Panel, LeavesALargeSelectionForAnother)
     EXPECT_EQ(typeNames(), QStringList{"Circle (1)"});
     QTest::qWait(50);
     EXPECT_EQ(typeNames(), QStringList{"Circle (1)"});
+}
+
+TEST(PropertyRows, PutWhatHasNoCategoryUnderANameOfItsOwn)
+{
+    std::vector<MergedProperty> properties(3);
+    properties[0].key = L"Start segment width";
+    properties[1].key = L"Geometry:Length";
+    properties[2].key = L"End segment width";
+    const auto categories = propertyRows(properties);
+    ASSERT_EQ(categories.size(), 2u);
+    EXPECT_EQ(categories[0]->name, "Other");
+    EXPECT_EQ(categories[0]->rows.size(), 2u);
+    EXPECT_EQ(categories[1]->name, "Geometry");
 }
 
 TEST_F(Panel, CanNotBeEdited)

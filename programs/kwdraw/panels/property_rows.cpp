@@ -116,13 +116,20 @@ void addProperty(PropertyRow& category, const MergedProperty& property)
         addCoordinates(row);
 }
 
+QString categoryOf(const MergedProperty& property)
+{
+    const std::wstring name = property.category();
+    return name.empty() ? translated(QT_TRANSLATE_NOOP("PropertyPanel", "Other"))
+                        : QString::fromStdWString(name);
+}
+
 } // namespace
 
 std::vector<std::unique_ptr<PropertyRow>> propertyRows(const std::vector<MergedProperty>& merged)
 {
     std::vector<std::unique_ptr<PropertyRow>> categories;
     for (const MergedProperty& property : merged) {
-        const QString name = QString::fromStdWString(property.category());
+        const QString name = categoryOf(property);
         const auto known =
             std::find_if(categories.begin(), categories.end(),
                          [&](const auto& category) { return category->name == name; });
