@@ -254,4 +254,17 @@ TEST(HelpText, IsEnglishWhereThereIsNoOther)
     EXPECT_TRUE(helpText("missing.md").isEmpty());
 }
 
+TEST(HelpPicture, SpeaksTheLanguageOfTheUser)
+{
+    setResourceLanguage("de");
+    const QImage german = helpPicture("quick-select-light.png", false);
+    setResourceLanguage("fr");
+    const QImage other = helpPicture("quick-select-light.png", false);
+    setResourceLanguage("en");
+    const QImage english = helpPicture("quick-select-light.png", false);
+    setResourceLanguage("");
+    EXPECT_EQ(other, english);
+    EXPECT_NE(german, english);
+}
+
 } // namespace

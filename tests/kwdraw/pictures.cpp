@@ -1,32 +1,51 @@
-// Draws the pictures of the documentation: program_pictures DRAWING FOLDER SUFFIX dark|light
-#include <ui/color_dialog.h>
+// Draws the pictures of the documentation, in the language of the user:
+// program_pictures DRAWING FOLDER SUFFIX light|dark|contrast NAME...
 #include <ui/message_box_windows.h>
-#include <ui/mru_combos.h>
-#include <ui/widgets.h>
 
 #include <QApplication>
 #include <QComboBox>
 #include <QLabel>
+#include <QLineEdit>
 #include <QListWidget>
 #include <QPainter>
-#include <QTableView>
 #include <QTest>
 #include <QTimer>
 
 #include <cstdio>
-#include <functional>
+#include <optional>
+#include <utility>
 
 #include <common/module.h>
+#include <kwdraw/document/user_language.h>
 #include <kwdraw/window/main_window.h>
 #include <kwdraw/window/theme.h>
-#include <platform/resources.h>
 
 namespace {
 
 constexpr int kSettle = 80;      // milliseconds
 constexpr int kLongest = 20'000; // that opening may take
 
-/// The windows on the screen as they lie over each other, without what is behind them.
+/// What is chosen in the dialog, by its names in one language.
+struct Words
+{
+    const char* circle = "Circle";
+    const char* polyline = "Polyline";
+    const char* radius = "Radius";
+    const char* length = "Length";
+    const char* color = "Color";
+    const char* linetype = "Linetype";
+};
+
+Words words()
+{
+    if (userLanguage() == "de")
+        return {"Kreis", "Polylinie", "Radius", "Länge", "Farbe", "Linientyp"};
+    return {};
+}
+
+constexpr int kGreater = 2; ///< in the list of operators
+
+/// The windows on the screen as they lie over each other, on an even ground.
 QImage pictureOf(const QWidgetList& windows)
 {
     QRect area;
@@ -35,7 +54,7 @@ QImage pictureOf(const QWidgetList& windows)
     const qreal scale = windows.first()->devicePixelRatioF();
     QImage picture(area.size() * scale, QImage::Format_ARGB32_Premultiplied);
     picture.setDevicePixelRatio(scale);
-    picture.fill(Qt::transparent);
+    picture.fill(QApplication::palette().color(QPalette::Window));
     QPainter painter(&picture);
     for (QWidget* window : windows)
         painter.drawPixmap(window->mapToGlobal(QPoint(0, 0)) - area.topLeft(), window->grab());
@@ -45,10 +64,16 @@ QImage pictureOf(const QWidgetList& windows)
 class Pictures
 {
   public:
-    Pictures(const char* folder, const char* suffix) : m_folder(folder), m_suffix(suffix) {}
+    Pictures(const char* folder, const char* suffix, QStringList wanted)
+        : m_folder(folder), m_suffix(suffix), m_wanted(std::move(wanted))
+    {
+    }
 
+    /// Takes one of the pictures that are wanted; others are passed over.
     void take(const QString& name, const QWidgetList& windows)
     {
+        if (!m_wanted.contains(name))
+            return;
         QTest::qWait(kSettle);
         const QString file = m_folder + '/' + name + '-' + m_suffix + ".png";
         if (!pictureOf(windows).save(file)) {
@@ -61,6 +86,7 @@ class Pictures
   private:
     QString m_folder;
     QString m_suffix;
+    QStringList m_wanted;
     bool m_failed = false;
 };
 
@@ -96,67 +122,43 @@ void takeWithList(Pictures& pictures, const QString& name, QWidget& dialog, QCom
     opened->hidePopup();
 }
 
+/// The filter "TYPE: PROPERTY > VALUE", as a person puts it together.
+void chooseFilter(QWidget& dialog, const char* type, const char* property, const char* value)
+{
+    combo(dialog, "IDC_QSELECT_OBJECT_TYPE_COMBO")->setCurrentText(type);
+    chooseProperty(dialog, property);
+    combo(dialog, "IDC_QSELECT_OPERATOR_COMBO")->setCurrentIndex(kGreater);
+    auto* edit = dialog.findChild<QLineEdit*>("IDC_QSELECT_VALUE_EDIT");
+    edit->setText(value);
+    edit->setFocus();
+}
+
 /// The dialog with what it would select in the window behind it.
 void takePreview(Pictures& pictures, MainWindow& window, QWidget& dialog)
 {
-    combo(dialog, "IDC_QSELECT_OBJECT_TYPE_COMBO")->setCurrentText("Polyline");
-    chooseProperty(dialog, "Length");
-    combo(dialog, "IDC_QSELECT_OPERATOR_COMBO")->setCurrentText("> Greater Than");
-    dialog.findChild<QLineEdit*>("IDC_QSELECT_VALUE_EDIT")->setText("1000");
+    chooseFilter(dialog, words().polyline, words().length, "1000");
     QTest::qWait(2 * kSettle); // for the count of these
     const auto* line = window.findChild<QLabel*>("preview");
     const auto isCounted = [&] { return line->isVisible() && !line->text().contains("..."); };
     if (!QTest::qWaitFor(isCounted, kLongest))
         std::fprintf(stderr, "program_pictures: no preview came up\n");
     window.findChild<DrawingView*>()->renderedPicture();
+    const QPoint before = dialog.pos();
     dialog.move(window.mapToGlobal(QPoint(window.width(), 0)));
     pictures.take("preview", {&window, &dialog});
-    combo(dialog, "IDC_QSELECT_OPERATOR_COMBO")->setCurrentText("= Equals");
-    combo(dialog, "IDC_QSELECT_OBJECT_TYPE_COMBO")->setCurrentText("Circle");
+    dialog.move(before); // where there is room for lists
 }
 
 void takeDialog(Pictures& pictures, MainWindow& window, QWidget& dialog)
 {
-    combo(dialog, "IDC_QSELECT_OBJECT_TYPE_COMBO")->setCurrentText("Circle");
-    chooseProperty(dialog, "Radius");
-    auto* edit = dialog.findChild<QLineEdit*>("IDC_QSELECT_VALUE_EDIT");
-    edit->setText("0.25");
-    edit->setFocus();
-    pictures.take("quick-select", {&dialog});
     takePreview(pictures, window, dialog);
-    for (const auto& [property, name] : {std::pair{"Color", "colors"},
-                                         {"Layer", "layers"},
-                                         {"Linetype", "linetypes"},
-                                         {"Lineweight", "lineweights"}}) {
+    chooseFilter(dialog, words().circle, words().radius, "5");
+    pictures.take("quick-select", {&dialog});
+    for (const auto& [property, name] :
+         {std::pair{words().color, "colors"}, {words().linetype, "linetypes"}}) {
         chooseProperty(dialog, property);
         takeWithList(pictures, QString("quick-select-") + name, dialog, valueCombo(dialog));
     }
-}
-
-/// The arrowheads in a window of their own.
-void takeArrowheads(Pictures& pictures)
-{
-    QWidget window;
-    window.resize(270, 40);
-    auto* widget = new KdUiComboBox(&window);
-    widget->setGeometry(10, 8, 250, 24);
-    widget->setMaxVisibleItems(20);
-    widget->setStyleSheet("QComboBox{combobox-popup:0;}");
-    CKdUiArrowHeadComboBox control;
-    control.setWidget(widget);
-    control.Create(CBS_DROPDOWNLIST, {}, nullptr, 0);
-    control.SetCurSel(3);
-    window.show();
-    takeWithList(pictures, "arrowheads", window, widget);
-}
-
-void takeColorDialog(Pictures& pictures)
-{
-    KdCmColor color;
-    color.setColorIndex(30);
-    KdUiColorDialog dialog(color);
-    dialog.show();
-    pictures.take("color-dialog", {&dialog});
 }
 
 } // namespace
@@ -166,30 +168,33 @@ int main(int argc, char** argv)
     QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     QApplication application(argc, argv);
-    if (argc != 5) {
-        std::fprintf(stderr, "usage: program_pictures DRAWING FOLDER SUFFIX dark|light\n");
+    const auto theme = argc > 5 ? themeNamed(argv[4]) : std::nullopt;
+    if (!theme) {
+        std::fprintf(stderr, "usage: program_pictures DRAWING FOLDER SUFFIX light|dark|contrast "
+                             "NAME...\n");
         return 2;
     }
     installMessageBoxWindows();
+    const Translation translation;
     Module module;
     if (!module.load(modulePath())) {
         std::fprintf(stderr, "program_pictures: %s\n", module.error().c_str());
         return 2;
     }
-    storeTheme(*themeNamed(argv[4]));
+    storeTheme(*theme);
     MainWindow window(module);
     window.show();
     window.openFile(argv[1]);
     if (!QTest::qWaitFor([&] { return window.document().isOpen(); }, kLongest))
         return 2;
-    Pictures pictures(argv[2], argv[3]);
-    SetCurrentResourceName(L"KwQselectUtilRes.dll");
-    takeArrowheads(pictures);
-    takeColorDialog(pictures);
-    RestorePreviousResource();
+    Pictures pictures(argv[2], argv[3], QApplication::arguments().mid(5));
     QTimer::singleShot(kSettle, [&] {
         QWidget* dialog = QApplication::activeModalWidget();
         takeDialog(pictures, window, *dialog);
+        if (*theme == Theme::HighContrast) // large objects, whose marks stand apart
+            chooseFilter(*dialog, words().polyline, words().length, "1000");
+        else
+            chooseFilter(*dialog, words().circle, words().radius, "5");
         QTest::keyClick(dialog, Qt::Key_Return);
     });
     window.carryOut("QSELECT");

@@ -14,10 +14,11 @@ namespace {
 constexpr char kKeys[] = "keys.md";
 constexpr double kPixelsPerUnit = 2.0; ///< of the pictures
 
-QString fileText(const QString& path)
+/// In the user's language, or in English where it has no such file.
+QString fileOfHelp(const QString& name)
 {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+    const QString own = ":/help/" + userLanguage() + '/' + name;
+    return QFile::exists(own) ? own : ":/help/en/" + name;
 }
 
 QString anchorOf(const QString& heading)
@@ -39,14 +40,14 @@ QString helpText(const QString& page)
     if (page == kKeys)
         return "# " + QCoreApplication::translate("HelpPages", "Keys and Commands") + "\n\n" +
                keyTable();
-    const QString own = fileText(":/help/" + userLanguage() + '/' + page);
-    return own.isEmpty() ? fileText(":/help/en/" + page) : own;
+    QFile file(fileOfHelp(page));
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
 }
 
 QImage helpPicture(const QString& name, bool isDark)
 {
     const QString wanted = isDark ? QString(name).replace("-light.", "-dark.") : name;
-    QImage picture(":/help/images/" + wanted);
+    QImage picture(fileOfHelp("images/" + wanted));
     picture.setDevicePixelRatio(kPixelsPerUnit);
     return picture;
 }
