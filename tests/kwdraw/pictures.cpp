@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QComboBox>
+#include <QDockWidget>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -45,7 +46,7 @@ Words words()
 
 constexpr int kGreater = 2; ///< in the list of operators
 
-/// The windows on the screen as they lie over each other, on an even ground.
+/// The windows on the screen as they lie over each other, each in a thin frame, on an even ground.
 QImage pictureOf(const QWidgetList& windows)
 {
     QRect area;
@@ -56,8 +57,12 @@ QImage pictureOf(const QWidgetList& windows)
     picture.setDevicePixelRatio(scale);
     picture.fill(QApplication::palette().color(QPalette::Window));
     QPainter painter(&picture);
-    for (QWidget* window : windows)
-        painter.drawPixmap(window->mapToGlobal(QPoint(0, 0)) - area.topLeft(), window->grab());
+    for (QWidget* window : windows) {
+        const QRect place(window->mapToGlobal(QPoint(0, 0)) - area.topLeft(), window->size());
+        painter.drawPixmap(place, window->grab());
+        painter.setPen(window->palette().color(QPalette::Mid));
+        painter.drawRect(place.adjusted(0, 0, -1, -1));
+    }
     return picture;
 }
 
@@ -142,11 +147,19 @@ void takePreview(Pictures& pictures, MainWindow& window, QWidget& dialog)
     const auto isCounted = [&] { return line->isVisible() && !line->text().contains("..."); };
     if (!QTest::qWaitFor(isCounted, kLongest))
         std::fprintf(stderr, "program_pictures: no preview came up\n");
+    // A small window, with the dialog over the panel that shows nothing.
+    const QRect before = window.geometry();
+    const QPoint place = dialog.pos();
+    auto* layers = window.findChild<QDockWidget*>("layersDock");
+    layers->hide();
+    window.resize(1000, 700);
+    QTest::qWait(kSettle);
+    dialog.move(window.findChild<QDockWidget*>("propertiesDock")->mapToGlobal(QPoint(0, 0)));
     window.findChild<DrawingView*>()->renderedPicture();
-    const QPoint before = dialog.pos();
-    dialog.move(window.mapToGlobal(QPoint(window.width(), 0)));
     pictures.take("preview", {&window, &dialog});
-    dialog.move(before); // where there is room for lists
+    layers->show();
+    window.setGeometry(before);
+    dialog.move(place);
 }
 
 void takeDialog(Pictures& pictures, MainWindow& window, QWidget& dialog)
