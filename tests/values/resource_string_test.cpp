@@ -254,9 +254,9 @@ TEST(GetOpmStrDeathTest, IsEmptyInSilenceUntilItsLibraryCanBeLoaded)
     testing::GTEST_FLAG(death_test_style) = "threadsafe";
     EXPECT_EXIT(
         {
-            CollectedMessages messages;
+            Messages messages;
             const bool isRight = nameBeforeAndAfterShortage() == L"|Circle";
-            std::exit(isRight && messages.texts.empty() ? 0 : 1);
+            std::exit(isRight && messages.shown.empty() ? 0 : 1);
         },
         testing::ExitedWithCode(0), "");
 }
