@@ -59,10 +59,11 @@ class LineSplitter
     }
 
   private:
-    /// The size of a line without its end, which begins at `place` or, of CR LF, one before.
+    /// The size of a line without its end, which begins at `place` or, of CR LF, one before. Lines
+    /// that end otherwise hold no CR: it would have ended them.
     std::size_t sizeOf(std::size_t begin, std::size_t place) const
     {
-        const bool isPair = place > begin && m_data[place] == '\n' && m_data[place - 1] == '\r';
+        const bool isPair = place > begin && m_data[place - 1] == '\r';
         return place - begin - (isPair ? 1 : 0);
     }
     void findLineEnds()
