@@ -342,6 +342,8 @@ TEST_F(Catalog, NamesTypesByTheirDisplayNameOrElseByTheirClass)
     EXPECT_EQ(catalog.GetLocalNameOfKdDbEntity(nullptr), L"");
     EXPECT_EQ(catalog.GetLocalNameOfKdDbEntity(add<KdDbLine>()), L"Line");
     EXPECT_EQ(catalog.GetLocalNameOfKdDbEntity(add<ToyEntity>()), kToy);
+    ToyEntity inNoDrawing; // the object model has no name for it
+    EXPECT_EQ(catalog.GetLocalNameOfKdDbEntity(&inNoDrawing), kToy);
 }
 
 TEST_F(Catalog, StartsTheDialogWithTheDefaultsOfTheRecord)
