@@ -1,11 +1,12 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <support/processor_watch.h>
+
 #include "selection_set.h"
 #include "working_drawing.h"
 
 #include <algorithm>
-#include <chrono>
 #include <random>
 
 using namespace editor_test;
@@ -174,23 +175,11 @@ TEST_F(SelectionSetOfLines, AgreesWithAPlainListOverManyChanges)
 constexpr double kPatience = 10.0;
 constexpr std::size_t kMany = 100000;
 
-class Stopwatch
-{
-  public:
-    double seconds() const
-    {
-        return std::chrono::duration<double>(std::chrono::steady_clock::now() - m_start).count();
-    }
-
-  private:
-    std::chrono::steady_clock::time_point m_start = std::chrono::steady_clock::now();
-};
-
 TEST_F(SelectionSetOfLines, StaysFastWhenItsFirstMemberIsRemovedAgainAndAgain)
 {
     for (const KdDbObjectId id : addLines(kMany))
         set.add(id);
-    const Stopwatch watch;
+    const ProcessorWatch watch;
     while (set.size() > 0)
         set.remove(set.at(0));
     EXPECT_LT(watch.seconds(), kPatience);
@@ -201,7 +190,7 @@ TEST_F(SelectionSetOfLines, StaysFastWhenRemovalsLookUpsAndAdditionsAlternate)
     const Ids lines = addLines(kMany);
     for (const KdDbObjectId id : lines)
         set.add(id);
-    const Stopwatch watch;
+    const ProcessorWatch watch;
     std::size_t sum = 0;
     for (const KdDbObjectId id : lines) {
         set.remove(id);
@@ -269,7 +258,7 @@ TEST_F(SelectionSetOfLines, DoesNotGrowWithWhatWasRemoved)
         set.remove(lines[1]);
     }
     // Walking over a cell for each removal would take this work far beyond any patience.
-    const Stopwatch watch;
+    const ProcessorWatch watch;
     for (std::size_t round = 0; round < kMany; ++round)
         ASSERT_EQ(byVisit(set).size(), 1u);
     EXPECT_LT(watch.seconds(), kPatience);
