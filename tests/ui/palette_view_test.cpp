@@ -1,5 +1,5 @@
 // The field of numbered colours.
-#include "application.h"
+#include "window_test.h"
 
 #include <database/color_palette.h>
 
