@@ -59,7 +59,7 @@ TEST_F(German, NamesMenusAndCommands)
 
 TEST_F(German, NamesTheUnitsOfTheDrawing)
 {
-    openPlan();
+    open(KW_SOURCE_DIR "/examples/floor_plan.dxf");
     EXPECT_EQ(window->findChild<QLabel*>("units")->text(), "Millimeter");
 }
 
