@@ -43,7 +43,8 @@ HRESULT EntityObject::GetDisplayName(int dispatchId, BSTR* name)
 
 HRESULT EntityObject::SetObjectId(const KdDbObjectId& id, KdDbObjectId, const wchar_t*)
 {
-    if (id.isNull() || !id.objectClass()->isDerivedFrom(KdDbEntity::desc()))
+    const KdRxClass* rxClass = id.objectClass();
+    if (!rxClass || !rxClass->isDerivedFrom(KdDbEntity::desc()))
         return E_INVALIDARG;
     m_id = id;
     return S_OK;

@@ -236,9 +236,11 @@ TEST(GetOpmStr, DoesNotDependOnTheCurrentLibrary)
     EXPECT_EQ(GetOPMStr(51064), L"Circle");
 }
 
-/// The name of a type while no more files can be opened, and once they can be again.
+/// The name of a type while no more files can be opened, and once they can be again. A library is
+/// looked for beforehand, since sanitizers need files of their own for what they meet first.
 std::wstring nameBeforeAndAfterShortage()
 {
+    LoadResourceDll(L"KwNoSuchLibrary.dll");
     rlimit files{};
     getrlimit(RLIMIT_NOFILE, &files);
     const rlimit none{0, files.rlim_max};
