@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cassert>
+#include <iterator>
 
 #include <database/dimension_style.h>
 
@@ -125,25 +126,48 @@ KdErrorStatus KdDbDatabase::getMaterialDictionary(KdDbDictionary*& dictionary, K
     return openNamedDictionary(L"ACAD_MATERIAL", dictionary, mode);
 }
 
+namespace {
+
+bool hasLesserHandle(const KdDbObject* a, const KdDbObject* b)
+{
+    return a->handle() < b->handle();
+}
+
+using Place = std::vector<KdDbObject*>::iterator;
+
+/// Makes one run of two. Of equal handles the first stays in front. Mostly the one run lies below
+/// the other, so few objects are looked at.
+void mergeRuns(Place begin, Place middle, Place end)
+{
+    begin = std::upper_bound(begin, middle, *middle, hasLesserHandle);
+    if (begin == middle)
+        return;
+    end = std::lower_bound(middle, end, *std::prev(middle), hasLesserHandle);
+    if (hasLesserHandle(*std::prev(end), *begin))
+        std::rotate(begin, middle, end);
+    else
+        std::inplace_merge(begin, middle, end, hasLesserHandle);
+}
+
+} // namespace
+
 void KdDbDatabase::sortHandles() const
 {
     // A file holds a few long ascending runs of handles, so whole runs are merged: neighbours
-    // first, until one is left. Of equal handles the first stays in front.
-    const auto isLess = [](const KdDbObject* a, const KdDbObject* b) {
-        return a->handle() < b->handle();
-    };
-    using Place = std::vector<KdDbObject*>::iterator;
+    // first, until one is left.
     std::vector<Place> ends;
     for (Place at = m_byHandle.begin(); at != m_byHandle.end();) {
-        at = std::is_sorted_until(at, m_byHandle.end(), isLess);
+        at = std::is_sorted_until(at, m_byHandle.end(), hasLesserHandle);
         ends.push_back(at);
     }
     while (ends.size() > 1) {
         std::vector<Place> merged;
         Place begin = m_byHandle.begin();
         for (std::size_t i = 0; i < ends.size(); i += 2) {
-            const Place end = i + 1 < ends.size() ? ends[i + 1] : ends[i];
-            std::inplace_merge(begin, ends[i], end, isLess);
+            const bool isAlone = i + 1 == ends.size();
+            const Place end = isAlone ? ends[i] : ends[i + 1];
+            if (!isAlone)
+                mergeRuns(begin, ends[i], end);
             merged.push_back(end);
             begin = end;
         }

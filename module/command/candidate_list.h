@@ -16,14 +16,16 @@ struct CandidateKind
 {
     const KdRxClass* rxClass;
     std::wstring displayName;
+    const KdDbEntity* first; ///< of its candidates
+    std::size_t count = 0;   ///< of its candidates
 };
 
 /// What is noted of one candidate, so that the entity itself is only looked at where it is asked
 /// for a property.
 struct CandidateNote
 {
-    KdDbObjectId layer;
-    std::uint32_t kind; ///< its number in the list of kinds
+    std::uint32_t kind;  ///< its number in the list of kinds
+    std::uint32_t layer; ///< its number in the list of layers
 };
 
 /// Entities in the order in which they were added, with a note for each. Copies share everything,
@@ -37,6 +39,8 @@ class CandidateList
     CandidateList() : m_content(std::make_shared<Content>()) {}
     CandidateList(std::initializer_list<KdDbEntity*> entities);
 
+    /// Makes room, where it is known how many entities will come at most.
+    void reserve(std::size_t entities);
     /// Adds an entity, whose class must be known. The note holds as long as the entity does not
     /// change.
     /// @return  the entity's kind
@@ -51,6 +55,8 @@ class CandidateList
     /// Those that were met, in that order.
     const std::vector<CandidateKind>& kinds() const { return m_content->kinds; }
     const CandidateKind& kindOf(std::size_t number) const { return kinds()[note(number).kind]; }
+    /// Those that were met, in that order; the null id may be among them.
+    const std::vector<KdDbObjectId>& layers() const { return m_content->layers; }
 
   private:
     struct KindsOfClass
@@ -64,11 +70,15 @@ class CandidateList
         std::vector<KdDbEntity*> entities;
         std::vector<CandidateNote> notes;
         std::vector<CandidateKind> kinds;
+        std::vector<KdDbObjectId> layers;
         ClassMap<KindsOfClass> ofClasses;
+        PlaceMap<KdDbObjectId, std::uint32_t>
+            layerNumbers; ///< counted from 1; 0: none was given yet
         DisplayNames names;
     };
 
     std::uint32_t kindOf(const KdDbEntity& entity);
+    std::uint32_t layerOf(const KdDbEntity& entity);
 
     std::shared_ptr<Content> m_content;
 };

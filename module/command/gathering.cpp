@@ -69,11 +69,11 @@ class TypeCollector
 class SheetViewportTest
 {
   public:
-    bool operator()(const KdDbEntity& entity)
+    bool operator()(const KdDbEntity& entity, const KdRxClass& rxClass)
     {
-        Kind& kind = m_classes.at(entity.isA());
+        Kind& kind = m_classes.at(&rxClass);
         if (kind == Kind::Unknown)
-            kind = entity.isKindOf(KdDbViewport::desc()) ? Kind::Viewport : Kind::Other;
+            kind = rxClass.isDerivedFrom(KdDbViewport::desc()) ? Kind::Viewport : Kind::Other;
         return kind == Kind::Viewport &&
                static_cast<const KdDbViewport&>(entity).number() == kSheetViewport;
     }
@@ -97,11 +97,13 @@ SpaceStatus gatherBlock(KdDbObjectId block, Candidates& candidates)
     const std::unique_ptr<KdDbBlockTableRecordIterator> iterator(walker);
     TypeCollector collector(candidates.allEntities, candidates.drawingTypeEntities);
     SheetViewportTest isSheetViewport;
+    candidates.allEntities.reserve(space->entityIds().size());
     for (iterator->start(true, true); !iterator->done(); iterator->step(true, true)) {
         KdDbEntity* entity = nullptr;
         if (iterator->getEntity(entity, KdDb::kForRead) != eOk)
             continue;
-        if (entity->isA() && !isSheetViewport(*entity))
+        const KdRxClass* rxClass = entity->isA();
+        if (rxClass && !isSheetViewport(*entity, *rxClass))
             collector.add(*entity);
         entity->close();
     }

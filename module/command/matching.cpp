@@ -1,9 +1,6 @@
 #include <command/matching.h>
 
-#include <array>
 #include <cstdint>
-#include <functional>
-#include <unordered_map>
 #include <vector>
 
 #include <database/tables.h>
@@ -54,11 +51,18 @@ class MatchWalk::Matcher
           m_candidates(candidates),
           m_comparison(parameters.propertyParameters),
           m_allTypes(isForAllTypes(parameters)),
-          m_plans(candidates.kinds().size())
+          m_plans(candidates.kinds().size()),
+          m_layers(candidates.layers().size())
     {
     }
 
-    bool isOnFrozenLayer(std::size_t candidate) { return layerOf(candidate).isFrozen; }
+    bool isOnFrozenLayer(std::size_t candidate)
+    {
+        LayerState& layer = layerOf(candidate);
+        if (layer.freezing == Answer::Unknown)
+            layer.freezing = isFrozen(m_candidates.note(candidate).layer);
+        return layer.freezing == Answer::Yes;
+    }
 
     /// What is to be done with a candidate, by its kind.
     const KindPlan& planFor(std::size_t candidate)
@@ -73,15 +77,13 @@ class MatchWalk::Matcher
     {
         if (!plan.followsFromLayer)
             return passes(m_candidates[candidate], plan);
-        Answer& answer = layerOf(candidate).answer;
+        Answer& answer = layerOf(candidate).match;
         if (answer == Answer::Unknown)
-            answer = passes(m_candidates[candidate], plan) ? Answer::Yes : Answer::No;
+            answer = answerOf(passes(m_candidates[candidate], plan));
         return answer == Answer::Yes;
     }
 
   private:
-    static constexpr unsigned kBits = 10;
-
     enum class Answer : std::uint8_t
     {
         Unknown,
@@ -90,29 +92,21 @@ class MatchWalk::Matcher
     };
     struct LayerState
     {
-        KdDbObjectId id;
-        bool isFrozen = false;
-        Answer answer = Answer::Unknown; ///< of what follows from the layer
+        Answer freezing = Answer::Unknown;
+        Answer match = Answer::Unknown; ///< of what follows from the layer
     };
+
+    static Answer answerOf(bool answer) { return answer ? Answer::Yes : Answer::No; }
 
     LayerState& layerOf(std::size_t candidate)
     {
-        const KdDbObjectId id = m_candidates.note(candidate).layer;
-        constexpr std::uint64_t kGoldenRatio = 0x9E3779B97F4A7C15u;
-        LayerState*& state =
-            m_lastLayers[std::hash<KdDbObjectId>()(id) * kGoldenRatio >> (64 - kBits)];
-        if (!state || state->id != id)
-            state = &findLayer(id);
-        return *state;
+        return m_layers[m_candidates.note(candidate).layer];
     }
-    LayerState& findLayer(KdDbObjectId id)
+    /// A layer that can't be opened excludes nothing.
+    Answer isFrozen(std::uint32_t number) const
     {
-        const auto [place, isNew] = m_layers.try_emplace(id);
-        if (isNew) {
-            const OpenForRead<KdDbLayerTableRecord> layer(id);
-            place->second = {id, layer && layer->isFrozen(), Answer::Unknown};
-        }
-        return place->second;
+        const OpenForRead<KdDbLayerTableRecord> layer(m_candidates.layers()[number]);
+        return answerOf(layer && layer->isFrozen());
     }
 
     /// With one type chosen both class and display name decide, since two names may share a class.
@@ -196,8 +190,7 @@ class MatchWalk::Matcher
     const bool m_allTypes;
     std::vector<KindPlan> m_plans; ///< by the number of the kind
     ValueChain m_value;
-    std::unordered_map<KdDbObjectId, LayerState> m_layers;
-    std::array<LayerState*, std::size_t{1} << kBits> m_lastLayers{}; ///< those looked at last
+    std::vector<LayerState> m_layers; ///< by the number of the layer
 };
 
 namespace {

@@ -1,6 +1,6 @@
 #include <command/property_listing.h>
 
-#include <map>
+#include <algorithm>
 #include <utility>
 #include <vector>
 
@@ -109,18 +109,11 @@ void listTypes(const long* ss, quick_select::TypeVisitor visitor, void* context)
     const Candidates candidates = gather(ss);
     const auto& examples = ss ? candidates.selectionTypeEntities : candidates.drawingTypeEntities;
     const CandidateList& all = allOf(candidates, ss);
-    std::vector<std::size_t> counts(all.kinds().size());
-    std::map<const KdDbEntity*, std::uint32_t> kinds; // of the examples
-    for (std::size_t i = 0; i < all.size(); ++i) {
-        const std::uint32_t kind = all.note(i).kind;
-        if (++counts[kind] == 1)
-            kinds.emplace(&all[i], kind);
-    }
     for (const KdDbEntity* example : examples) {
-        const std::uint32_t number = kinds.at(example);
-        const CandidateKind& kind = all.kinds()[number];
-        visitor(context, Type{kind.displayName.c_str(), kind.rxClass->name(), example->objectId(),
-                              counts[number]});
+        const auto kind = std::find_if(all.kinds().begin(), all.kinds().end(),
+                                       [&](const CandidateKind& k) { return k.first == example; });
+        visitor(context, Type{kind->displayName.c_str(), kind->rxClass->name(), example->objectId(),
+                              kind->count});
     }
 }
 

@@ -1,51 +1,54 @@
-/// A map from runtime classes.
+/// Maps from runtime classes, and from other things that are known by their place in memory.
 #pragma once
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <utility>
 #include <vector>
 
 class KdRxClass;
 
-/// Keeps something for each class. There are few classes, and one is looked up with every entity of
-/// a run, so this does no more than it has to: a multiplication and as a rule one comparison.
-template <class Kept>
-class ClassMap
+/// Keeps something for each key, which is a pointer or as good as one. Keys are looked up with
+/// every entity of a run, so this does no more than it has to: a multiplication and as a rule one
+/// comparison.
+template <class Key, class Kept>
+class PlaceMap
 {
   public:
-    ClassMap() : m_places(kFewest) {}
+    PlaceMap() : m_places(kFewest) {}
 
-    /// What is kept for the class, at first in its initial state; valid until the next call with a
-    /// class that is new here. Null is no class.
-    Kept& at(const KdRxClass* rxClass)
+    /// What is kept for the key, at first in its initial state; valid until the next call with a
+    /// key that is new here.
+    Kept& at(Key key)
     {
-        Place* place = &find(rxClass);
-        if (place->rxClass)
+        Place* place = &find(key);
+        if (place->isTaken)
             return place->kept;
         if (++m_count * 2 > m_places.size()) {
             grow();
-            place = &find(rxClass);
+            place = &find(key);
         }
-        place->rxClass = rxClass;
+        place->key = key;
+        place->isTaken = true;
         return place->kept;
     }
 
   private:
     struct Place
     {
-        const KdRxClass* rxClass = nullptr;
+        Key key{};
         Kept kept{};
+        bool isTaken = false;
     };
     static constexpr std::size_t kFewest = 64; ///< a power of two
 
-    Place& find(const KdRxClass* rxClass)
+    Place& find(Key key)
     {
         constexpr std::uint64_t kGoldenRatio = 0x9E3779B97F4A7C15u;
         const std::size_t mask = m_places.size() - 1;
-        auto index = static_cast<std::size_t>(
-            reinterpret_cast<std::uintptr_t>(rxClass) * kGoldenRatio >> 32);
-        while (m_places[index & mask].rxClass && m_places[index & mask].rxClass != rxClass)
+        auto index = static_cast<std::size_t>(std::hash<Key>()(key) * kGoldenRatio >> 32);
+        while (m_places[index & mask].isTaken && m_places[index & mask].key != key)
             ++index;
         return m_places[index & mask];
     }
@@ -54,11 +57,15 @@ class ClassMap
         std::vector<Place> old(m_places.size() * 2);
         old.swap(m_places);
         for (Place& place : old) {
-            if (place.rxClass)
-                find(place.rxClass) = std::move(place);
+            if (place.isTaken)
+                find(place.key) = std::move(place);
         }
     }
 
     std::vector<Place> m_places;
     std::size_t m_count = 0;
 };
+
+/// Keeps something for each class.
+template <class Kept>
+using ClassMap = PlaceMap<const KdRxClass*, Kept>;

@@ -4,6 +4,7 @@
 #include <string_view>
 #include <unordered_map>
 
+#include <entities/block_reference.h>
 #include <platform/object_model.h>
 #include <values/resource_string.h>
 
@@ -204,24 +205,38 @@ CStdStr<wchar_t> GetLocalNameOfKdDbEntityEx(const KdDbEntity* entity)
 
 const CStdStr<wchar_t>& DisplayNames::of(const KdDbEntity& entity)
 {
-    if (const CStdStr<wchar_t>* name = ofClass(entity.isA()))
-        return *name;
-    return m_ofEntity = GetEntityDisplayName(entity.objectId());
+    const KdRxClass* const rxClass = entity.isA();
+    ClassName* const name = rxClass ? &nameOf(*rxClass) : nullptr;
+    if (name && name->isOfAll)
+        return name->text;
+    if (!name || (name->mayVary && !entity.reactors().empty()))
+        return m_ofEntity = GetEntityDisplayName(entity.objectId());
+    if (name->text.empty()) // an erased entity has no name, which says nothing of the others
+        name->text = GetEntityDisplayName(entity.objectId());
+    name->isOfAll = !name->mayVary && !name->text.empty();
+    return name->text;
 }
 
 const CStdStr<wchar_t>* DisplayNames::ofClass(const KdRxClass* rxClass)
 {
     if (!rxClass)
         return nullptr;
-    ClassName& name = m_ofClasses.at(rxClass);
-    if (!name.isKnown) {
-        name.isKnown = true;
-        if (const unsigned int id = displayNameId(classNameOf(rxClass))) {
-            name.isOfAll = true;
-            name.text = GetOPMStr(id);
-        }
-    }
+    const ClassName& name = nameOf(*rxClass);
     return name.isOfAll ? &name.text : nullptr;
+}
+
+DisplayNames::ClassName& DisplayNames::nameOf(const KdRxClass& rxClass)
+{
+    ClassName& name = m_ofClasses.at(&rxClass);
+    if (name.isKnown)
+        return name;
+    name.isKnown = true;
+    name.mayVary = rxClass.isDerivedFrom(KdDbBlockReference::desc());
+    if (const unsigned int id = displayNameId(classNameOf(&rxClass))) {
+        name.isOfAll = true;
+        name.text = GetOPMStr(id);
+    }
+    return name;
 }
 
 CStdStr<wchar_t> GetEntityDisplayName(KdDbObjectId id)

@@ -12,24 +12,28 @@
 /// model has no name. Takes constant time for the classes of the table.
 CStdStr<wchar_t> GetLocalNameOfKdDbEntityEx(const KdDbEntity* entity);
 
-/// Display names for the length of a run, in which a class of the table is looked up once. The name
-/// of every other class is asked for anew, since entities of one class may have different ones.
+/// Display names for the length of a run, in which what all entities of a class share is looked up
+/// once. A block reference may have a name of its own where something reacts to it, since arrays
+/// and centre objects are such references; then it is asked for itself.
 class DisplayNames
 {
   public:
     /// As `GetLocalNameOfKdDbEntityEx`; valid until the next call.
     const CStdStr<wchar_t>& of(const KdDbEntity& entity);
-    /// The name that all entities of a class have; null where each may have another. Valid until
-    /// the next call.
+    /// The name that all entities of a class have; null where each may have another, and where it
+    /// is not known before an entity is asked. Valid until the next call.
     const CStdStr<wchar_t>* ofClass(const KdRxClass* rxClass);
 
   private:
     struct ClassName
     {
-        bool isKnown = false;
-        bool isOfAll = false; ///< all entities of the class have it
+        bool isKnown = false; ///< what follows is found out
+        bool isOfAll = false; ///< all entities of the class have `text`
+        bool mayVary = false; ///< only those to which nothing reacts
         CStdStr<wchar_t> text;
     };
+
+    ClassName& nameOf(const KdRxClass& rxClass);
 
     ClassMap<ClassName> m_ofClasses;
     CStdStr<wchar_t> m_ofEntity;

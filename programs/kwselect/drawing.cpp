@@ -25,11 +25,6 @@ ExitStatus readOrTell(const std::string& file, std::unique_ptr<KdDbDatabase>& da
     return status == eUserBreak ? kInterrupted : kCannotWork;
 }
 
-Drawing::~Drawing()
-{
-    kddbHostApplicationServices()->setWorkingDatabase(nullptr);
-}
-
 ExitStatus Drawing::open(const std::string& file)
 {
     ReadOptions options;

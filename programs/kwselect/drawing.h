@@ -20,7 +20,6 @@ class Drawing
 {
   public:
     Drawing() = default;
-    ~Drawing();
     Drawing(const Drawing&) = delete;
     Drawing& operator=(const Drawing&) = delete;
 

@@ -242,11 +242,19 @@ class Search
     bool m_handleIsHere = false;
 };
 
+/// A process searches one drawing and ends. So the drawing is left to the system, which takes all
+/// its memory back at once and need not look at a million entities.
+Drawing& drawingOfProcess()
+{
+    static auto& drawing = *new Drawing;
+    return drawing;
+}
+
 } // namespace
 
 SearchResult searchDrawing(const Plan& plan, const std::string& file, const RowSink& sink)
 {
-    Drawing drawing;
+    Drawing& drawing = drawingOfProcess();
     if (const ExitStatus status = drawing.open(file); status != kSelected)
         return {status, {}};
     Module module;

@@ -26,11 +26,38 @@ TEST_F(ListOfCandidates, KeepsTheOrderOfAdding)
     EXPECT_EQ(&list[1], line);
 }
 
-TEST_F(ListOfCandidates, NotesTheLayer)
+TEST_F(ListOfCandidates, NumbersTheLayersAsTheyCome)
 {
-    KdDbEntity* line = addOn(L"PIPES");
-    list.add(*line);
-    EXPECT_EQ(list.note(0).layer, line->layerId());
+    KdDbEntity* pipe = addOn(L"PIPES");
+    KdDbEntity* wall = addOn(L"WALLS");
+    for (KdDbEntity* entity : {pipe, wall, pipe})
+        list.add(*entity);
+    EXPECT_THAT(list.layers(), ElementsAre(pipe->layerId(), wall->layerId()));
+    EXPECT_EQ(list.note(0).layer, 0u);
+    EXPECT_EQ(list.note(1).layer, 1u);
+    EXPECT_EQ(list.note(2).layer, 0u);
+}
+
+TEST_F(ListOfCandidates, HasALayerForEntitiesWithoutOne)
+{
+    KdDbLine line;
+    list.add(line);
+    list.add(*addOn(L"PIPES"));
+    EXPECT_TRUE(list.layers()[list.note(0).layer].isNull());
+    EXPECT_FALSE(list.layers()[list.note(1).layer].isNull());
+}
+
+TEST_F(ListOfCandidates, KnowsTheFirstOfEachKindAndTheirNumber)
+{
+    KdDbEntity* line = add(model());
+    KdDbEntity* circle = add<KdDbCircle>(model());
+    for (KdDbEntity* entity : {line, circle, add(model())})
+        list.add(*entity);
+    ASSERT_EQ(list.kinds().size(), 2u);
+    EXPECT_EQ(list.kinds()[0].first, line);
+    EXPECT_EQ(list.kinds()[0].count, 2u);
+    EXPECT_EQ(list.kinds()[1].first, circle);
+    EXPECT_EQ(list.kinds()[1].count, 1u);
 }
 
 TEST_F(ListOfCandidates, NumbersTheKindsAsTheyCome)

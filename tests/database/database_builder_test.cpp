@@ -1,5 +1,7 @@
 #include <database/database.h>
 
+#include <vector>
+
 #include <gtest/gtest.h>
 
 #include <entities/line.h>
@@ -46,6 +48,47 @@ TEST_F(Builder, FindsHandlesInWhateverOrderTheyCame)
     for (std::size_t i = 0; i < ids.size(); ++i)
         EXPECT_EQ(find(handles[i]), ids[i]);
     EXPECT_TRUE(find(0x11).isNull());
+}
+
+struct RunsOfHandles
+{
+    const char* name;
+    std::vector<KdDbHandle> handles;
+};
+
+class BuilderOfRuns : public Builder, public testing::WithParamInterface<RunsOfHandles>
+{
+};
+
+TEST_P(BuilderOfRuns, FindsEachHandleOnceAllHaveCome)
+{
+    std::vector<KdDbObjectId> ids;
+    for (const KdDbHandle handle : GetParam().handles)
+        ids.push_back(line(handle)->objectId());
+    for (std::size_t i = 0; i < ids.size(); ++i)
+        EXPECT_EQ(find(GetParam().handles[i]), ids[i]);
+    EXPECT_TRUE(find(99).isNull());
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    All, BuilderOfRuns,
+    testing::Values(RunsOfHandles{"none", {}}, RunsOfHandles{"one", {1, 2, 3}},
+                    RunsOfHandles{"oneBelowTheOther", {11, 12, 13, 1, 2}},
+                    RunsOfHandles{"oneAmidTheOther", {1, 2, 8, 9, 3, 4}},
+                    RunsOfHandles{"oneThroughTheOther", {1, 3, 5, 7, 2, 4, 6, 8}},
+                    RunsOfHandles{"oneBeginningInTheOther", {1, 3, 5, 4, 6, 7}},
+                    RunsOfHandles{"three", {21, 22, 11, 12, 1, 2}},
+                    RunsOfHandles{"fallingAlone", {5, 4, 3, 2, 1}}),
+    [](const auto& row) { return row.param.name; });
+
+TEST_F(Builder, FindsTheFirstOfADoubledHandleAlsoAtTheEndsOfRuns)
+{
+    const KdDbObject* ten = line(10);
+    const KdDbObject* twenty = line(20);
+    line(10);
+    line(20);
+    EXPECT_EQ(find(10), ten->objectId());
+    EXPECT_EQ(find(20), twenty->objectId());
 }
 
 TEST_F(Builder, FindsTheFirstOfADoubledHandle)

@@ -29,4 +29,15 @@ TEST(ClassMap, KeepsSomethingOfItsOwnForEachClassHoweverManyThereAre)
         EXPECT_EQ(map.at(place(i)), i + 1);
 }
 
+TEST(PlaceMap, TakesNullForAKeyAsAnyOther)
+{
+    PlaceMap<const int*, int> map;
+    const int thing = 0;
+    map.at(nullptr) = 5;
+    EXPECT_EQ(map.at(&thing), 0);
+    map.at(&thing) = 6;
+    EXPECT_EQ(map.at(nullptr), 5);
+    EXPECT_EQ(map.at(&thing), 6);
+}
+
 } // namespace

@@ -1,11 +1,14 @@
 #include <values/display_name.h>
 
+#include <memory>
 #include <string>
 
 #include <gtest/gtest.h>
 
+#include <entities/assoc_array.h>
 #include <entities/block_reference.h>
 #include <entities/circle.h>
+#include <entities/linear_dimensions.h>
 #include <platform/object_model.h>
 #include <values/resource_string.h>
 
@@ -50,6 +53,14 @@ class DisplayName : public DrawingTest
         auto* entity = new Entity;
         m_drawing.addObject(entity, m_drawing.modelSpaceId());
         return entity;
+    }
+
+    static void erase(const KdDbEntity& entity)
+    {
+        KdDbObject* opened = nullptr;
+        ASSERT_EQ(kddbOpenObject(opened, entity.objectId(), KdDb::kForWrite), eOk);
+        EXPECT_EQ(opened->erase(), eOk);
+        opened->close();
     }
 
   private:
@@ -214,11 +225,75 @@ TEST_F(DisplayName, IsEmptyForAnEntityWhoseClassIsThatOfNone)
 TEST_F(DisplayName, IsEmptyForAnErasedEntity)
 {
     KdDbBlockReference* reference = add<KdDbBlockReference>();
-    KdDbObject* opened = nullptr;
-    ASSERT_EQ(kddbOpenObject(opened, reference->objectId(), KdDb::kForWrite), eOk);
-    ASSERT_EQ(opened->erase(), eOk);
-    opened->close();
+    erase(*reference);
     EXPECT_TRUE(GetEntityDisplayName(reference->objectId()).empty());
+}
+
+class NamesOfARun : public DisplayName
+{
+  protected:
+    /// A reference that is an array, which its reactor tells.
+    KdDbBlockReference* addArray()
+    {
+        auto* body = new KdDbAssocArrayActionBody;
+        body->edit().array = std::make_unique<KdDbAssocArrayPolarParameters>();
+        m_drawing.addObject(body, {});
+        auto* action = new KdDbAssocAction;
+        action->edit().body = body->objectId();
+        m_drawing.addObject(action, {});
+        auto* dependency = new KdDbAssocDependency;
+        m_drawing.addObject(dependency, action->objectId());
+        auto* reference = new KdDbBlockReference;
+        reference->edit().links.edit().reactors = {dependency->objectId()};
+        m_drawing.addObject(reference, m_drawing.modelSpaceId());
+        return reference;
+    }
+
+    DisplayNames names;
+};
+
+TEST_F(NamesOfARun, AreThoseThatEntitiesHave)
+{
+    EXPECT_EQ(names.of(*add<KdDbCircle>()), L"Circle");
+    EXPECT_EQ(names.of(*add<KdDbAlignedDimension>()), L"Aligned Dimension");
+    EXPECT_EQ(names.of(*add<KdDbBlockReference>()), L"Block Reference");
+}
+
+TEST_F(NamesOfARun, AreKnownForAClassOfTheTableBeforeAnyEntity)
+{
+    ASSERT_NE(names.ofClass(KdDbCircle::desc()), nullptr);
+    EXPECT_EQ(*names.ofClass(KdDbCircle::desc()), L"Circle");
+    EXPECT_EQ(names.ofClass(nullptr), nullptr);
+}
+
+TEST_F(NamesOfARun, AreKnownForAClassOfTheObjectModelFromTheFirstEntityOn)
+{
+    EXPECT_EQ(names.ofClass(KdDbAlignedDimension::desc()), nullptr);
+    names.of(*add<KdDbAlignedDimension>());
+    ASSERT_NE(names.ofClass(KdDbAlignedDimension::desc()), nullptr);
+    EXPECT_EQ(*names.ofClass(KdDbAlignedDimension::desc()), L"Aligned Dimension");
+}
+
+TEST_F(NamesOfARun, TellReferencesApartToWhichSomethingReacts)
+{
+    EXPECT_EQ(names.of(*addArray()), L"Polar Array");
+    EXPECT_EQ(names.of(*add<KdDbBlockReference>()), L"Block Reference");
+    EXPECT_EQ(names.of(*addArray()), L"Polar Array");
+    EXPECT_EQ(names.ofClass(KdDbBlockReference::desc()), nullptr);
+}
+
+TEST_F(NamesOfARun, DoNotFollowFromAnErasedEntity)
+{
+    auto* erased = add<KdDbAlignedDimension>();
+    erase(*erased);
+    EXPECT_EQ(names.of(*erased), L"");
+    EXPECT_EQ(names.ofClass(KdDbAlignedDimension::desc()), nullptr);
+    EXPECT_EQ(names.of(*add<KdDbAlignedDimension>()), L"Aligned Dimension");
+}
+
+TEST_F(NamesOfARun, AreEmptyWithoutAClass)
+{
+    EXPECT_EQ(names.of(ToyEntity(nullptr)), L"");
 }
 
 using ClassId = DisplayName;

@@ -13,10 +13,11 @@ constexpr int DISPID_OBJECT_TYPE_NAME = 1025;
 class IOPMPropertyExtension : public IUnknown
 {
   public:
-    /// Gives the display name behind a number; `name` is owned by the caller and freed with
-    /// `SysFreeString`. On a failure `name` becomes null: `DISP_E_MEMBERNOTFOUND` for any number
-    /// but `DISPID_OBJECT_TYPE_NAME`, `E_FAIL` if the object is bound to no entity or to an erased
-    /// one.
+    /// Gives the display name behind a number. That of a type follows from the entity's class; only
+    /// a block reference to which something reacts may have another. `name` is owned by the caller
+    /// and freed with `SysFreeString`. On a failure `name` becomes null: `DISP_E_MEMBERNOTFOUND`
+    /// for any number but `DISPID_OBJECT_TYPE_NAME`, `E_FAIL` if the object is bound to no entity
+    /// or to an erased one.
     virtual HRESULT GetDisplayName(int dispatchId, BSTR* name) = 0;
 
   protected:
