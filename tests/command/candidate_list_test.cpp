@@ -51,8 +51,9 @@ TEST_F(ListOfCandidates, KnowsTheFirstOfEachKindAndTheirNumber)
 {
     KdDbEntity* line = add(model());
     KdDbEntity* circle = add<KdDbCircle>(model());
-    for (KdDbEntity* entity : {line, circle, add(model())})
-        list.add(*entity);
+    list.add(*line);
+    list.add(*circle);
+    list.add(*add(model()));
     ASSERT_EQ(list.kinds().size(), 2u);
     EXPECT_EQ(list.kinds()[0].first, line);
     EXPECT_EQ(list.kinds()[0].count, 2u);
