@@ -72,8 +72,8 @@ class CandidateList
         std::vector<CandidateKind> kinds;
         std::vector<KdDbObjectId> layers;
         ClassMap<KindsOfClass> ofClasses;
-        PlaceMap<KdDbObjectId, std::uint32_t>
-            layerNumbers; ///< counted from 1; 0: none was given yet
+        /// Counted from 1; 0: none was given yet.
+        PlaceMap<KdDbObjectId, std::uint32_t> layerNumbers;
         DisplayNames names;
     };
 

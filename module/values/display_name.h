@@ -29,7 +29,7 @@ class DisplayNames
     {
         bool isKnown = false; ///< what follows is found out
         bool isOfAll = false; ///< all entities of the class have `text`
-        bool mayVary = false; ///< only those to which nothing reacts
+        bool mayVary = false; ///< only those to which nothing reacts have `text`
         CStdStr<wchar_t> text;
     };
 

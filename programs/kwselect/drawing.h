@@ -15,7 +15,7 @@
 ExitStatus readOrTell(const std::string& file, std::unique_ptr<KdDbDatabase>& database,
                       ReadReport& report, ReadOptions options);
 
-/// Holds a drawing open as the working drawing.
+/// Holds a drawing open as the working drawing, to the end of the process.
 class Drawing
 {
   public:

@@ -13,8 +13,8 @@
 
 #include <entities/line.h>
 
+#include "byte_scan.h"
 #include "large_drawing.h"
-#include "line_splitter.h"
 
 namespace {
 
